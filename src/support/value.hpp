@@ -1,0 +1,48 @@
+#pragma once
+
+#include "support/boolean_word.hpp"
+#include "support/host_array.hpp"
+#include "support/object.hpp"
+
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <variant>
+
+namespace zendara
+{
+
+/// Nothing: a Variant that was never set, a routine without a result.
+struct Empty {
+    bool operator==(Empty const&) const = default;
+};
+
+/// One value of the interface: a number, a text, an array, an object (which it does not own), or nothing.
+using Value = std::variant<Empty, std::int16_t, std::int32_t, float, double, std::string, HostArray<double>, Object*>;
+
+/// The value as a Double.
+/// @throws Failure  TypeMismatch when it is neither a number nor the text of one
+double to_double(Value const& value);
+
+/// The value as a text; numbers in their plain form.
+/// @throws Failure  TypeMismatch for arrays and objects
+std::string to_text(Value const& value);
+
+/// The value as a host array.
+/// @throws Failure  TypeMismatch when it is none
+HostArray<double> const& to_array(Value const& value);
+
+/// The object in the value, nullptr for nothing.
+/// @throws Failure  TypeMismatch when it is neither
+Object* to_object(Value const& value);
+
+/// Converts an interface value into the C++ type that a member takes. Numbers are rounded half to even.
+/// @throws Failure  TypeMismatch, or Overflow when a number does not fit
+template <class T> T from_value(Value const& value);
+
+/// Wraps a C++ result into an interface value.
+template <class T> Value to_value(T&& result);
+
+} // namespace zendara
+
+#include "support/value_conversion.ipp"

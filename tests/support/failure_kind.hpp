@@ -1,0 +1,16 @@
+#pragma once
+
+#include "support/failure.hpp"
+
+#include <optional>
+
+/// The kind of failure that a step ends with; nothing when it runs to its end.
+template <class Step> std::optional<zendara::FailureKind> failure_of(Step&& step)
+{
+    try {
+        step();
+    } catch (zendara::Failure const& failure) {
+        return failure.kind();
+    }
+    return std::nullopt;
+}
