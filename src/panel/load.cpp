@@ -1,0 +1,172 @@
+#include "panel/load.hpp"
+
+#include "support/checked.hpp"
+#include "support/trap.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace zendara
+{
+
+namespace
+{
+
+using Array = HostArray<double>;
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+struct SiteColumns {
+    Array x, y, Z;
+};
+
+// Gives a panel's plot limits back after new data have replaced them.
+class PlotLimits
+{
+public:
+    PlotLimits(panel const& record, bool keep) : keep_(keep), maximal_(record.maximal), minimal_(record.minimal) {}
+
+    void give_back(panel& record) const
+    {
+        if (keep_)
+            record.setMaximalMinial(maximal_, minimal_);
+    }
+
+private:
+    bool keep_;
+    double maximal_, minimal_;
+};
+
+// One equal pair is enough: one wrong array passes and fails at its first missing element.
+bool lets_pass(std::int32_t bound_x, std::int32_t bound_y, std::int32_t bound_Z)
+{
+    return bound_x == bound_y || bound_Z == bound_y;
+}
+
+void store_sites(panel& record, Array const& x, Array const& y, Array const& Z, std::int16_t lower, std::int16_t upper)
+{
+    for (std::int16_t i = lower; i <= upper; count_on(i))
+        record.SetGridValue(x(i), y(i), Z(i));
+}
+
+LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Array const& Z, bool keep_limits)
+{
+    if (!lets_pass(x.upper_bound(), y.upper_bound(), Z.upper_bound()))
+        return LoadResult::UpperBoundsDiffer;
+    std::int16_t const upper = to_i16(x.upper_bound());
+    if (!lets_pass(x.lower_bound(), y.lower_bound(), Z.lower_bound()))
+        return LoadResult::LowerBoundsDiffer;
+    std::int16_t const lower = to_i16(x.lower_bound());
+
+    PlotLimits const limits(record, keep_limits);
+    record.reset();
+    record.SetNop(static_cast<double>(upper) - lower + 1);
+    store_sites(record, x, y, Z, lower, upper);
+    record.MaxMin();
+    limits.give_back(record);
+    return LoadResult::Done;
+}
+
+File open_for_reading_and_writing(std::string const& path)
+{
+    // Appending is the mode that creates a missing file and never cuts one that exists.
+    File file(std::fopen(path.c_str(), "a+b"));
+    if (file == nullptr)
+        fail(FailureKind::FileError, "the data file cannot be opened");
+    std::rewind(file.get());
+    return file;
+}
+
+double from_little_endian(unsigned char const* bytes)
+{
+    std::uint64_t bits = 0;
+    for (int i = 7; i >= 0; --i)
+        bits = bits << 8 | bytes[i];
+    double value = 0;
+    static_assert(sizeof value == sizeof bits && std::numeric_limits<double>::is_iec559);
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+}
+
+// What the file lacks stays 0.
+void read_values(std::FILE* file, std::span<double> values)
+{
+    std::vector<unsigned char> bytes(8 * values.size());
+    std::size_t const count = std::fread(bytes.data(), 8, values.size(), file);
+    for (std::size_t i = 0; i < count; ++i)
+        values[i] = from_little_endian(&bytes[8 * i]);
+}
+
+SiteColumns read_columns(std::string const& path, double nops)
+{
+    SiteColumns columns;
+    // A count beyond 16 bits fails before any value is used, so there is no need to read so many.
+    std::int32_t const count = std::min<std::int32_t>(to_i32(nops), std::numeric_limits<std::int16_t>::max());
+    for (Array* const column : {&columns.x, &columns.y, &columns.Z})
+        column->redim(1, count);
+
+    File const file = open_for_reading_and_writing(path);
+    for (Array* const column : {&columns.x, &columns.y, &columns.Z})
+        read_values(file.get(), column->values());
+    return columns;
+}
+
+} // namespace
+
+LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<double> const& y,
+                       HostArray<double> const& Z, bool keep_limits)
+{
+    LoadResult result = LoadResult::RunTimeFailure;
+    trap([&] { result = load_checked_arrays(record, x, y, Z, keep_limits); });
+    return result;
+}
+
+LoadResult load_file(panel& record, std::string const& datafile, double nops, bool keep_limits)
+{
+    bool const is_done = trap([&] {
+        PlotLimits const limits(record, keep_limits);
+        record.reset();
+        record.SetNop(nops);
+        SiteColumns const columns = read_columns(datafile, nops);
+        store_sites(record, columns.x, columns.y, columns.Z, 1, to_i16(nops));
+        record.MaxMin();
+        limits.give_back(record);
+    });
+    return is_done ? LoadResult::Done : LoadResult::RunTimeFailure;
+}
+
+double read_sites(panel const& record, HostArray<double>& x, HostArray<double>& y, HostArray<double>& Z)
+{
+    double const nop = record.GetNop();
+    if (!(nop > 0))
+        return nop;
+
+    std::int32_t const upper = to_i32(nop);
+    for (Array* const column : {&x, &y, &Z})
+        column->redim(1, upper);
+    Array position(1, {0.0, 0.0});
+    for (std::int16_t i = 1; i <= nop; count_on(i)) {
+        Z(i) = record.GetGridValue(i, position);
+        x(i) = position(1);
+        y(i) = position(2);
+    }
+    return nop;
+}
+
+BooleanWord ApplyPlotLimit(panel& panobj, double LPL, double UPL)
+{
+    if (LPL >= UPL)
+        return false;
+    panobj.setMaximalMinial(UPL, LPL);
+    return true;
+}
+
+} // namespace zendara

@@ -1,0 +1,340 @@
+#include "panel/load.hpp"
+#include "panel/panel.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zendara
+{
+namespace
+{
+
+using Array = HostArray<double>;
+
+Array counted(std::int32_t lower, std::int32_t upper, double first)
+{
+    Array array;
+    array.redim(lower, upper);
+    for (double& value : array.values())
+        value = first++;
+    return array;
+}
+
+double value_of(panel const& record, std::int16_t site)
+{
+    Array position(1, {0, 0});
+    return record.GetGridValue(site, position);
+}
+
+panel& sized(panel& record)
+{
+    record.SizeX = 300;
+    record.SizeY = 200;
+    return record;
+}
+
+class LoadFile : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        folder_ = std::filesystem::temp_directory_path() /
+                  ("zendara_load_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directory(folder_);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    std::string path(std::string const& name) const { return (folder_ / name).string(); }
+
+    std::string write(std::string const& name, std::string const& bytes) const
+    {
+        std::ofstream(path(name), std::ios::binary) << bytes;
+        return path(name);
+    }
+
+    std::string read(std::string const& name) const
+    {
+        std::ifstream file(path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    std::filesystem::path folder_;
+};
+
+// The little-endian bytes of 1, 2, 3 and so on up to 6.
+std::string six_values()
+{
+    std::string bytes;
+    for (char const* const high : {"\xf0\x3f", "\x00\x40", "\x08\x40", "\x10\x40", "\x14\x40", "\x18\x40"})
+        bytes += std::string(6, '\0') + std::string(high, 2);
+    return bytes;
+}
+
+TEST(LoadArrays, ArraysFrom0To9GiveTenSitesInTheirOrder)
+{
+    panel record;
+    EXPECT_EQ(load_arrays(sized(record), counted(0, 9, 1), counted(0, 9, 11), counted(0, 9, 21), false),
+              LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 10);
+    Array position(1, {0, 0});
+    EXPECT_EQ(record.GetGridValue(1, position), 21);
+    EXPECT_EQ(position(1), 1);
+    EXPECT_EQ(position(2), 11);
+    EXPECT_EQ(record.GetGridValue(10, position), 30);
+    EXPECT_EQ(record.maxi, 30);
+}
+
+TEST(LoadArrays, NegativeLowerBoundsCount)
+{
+    panel record;
+    EXPECT_EQ(load_arrays(record, counted(-2, 2, 0), counted(-2, 2, 0), counted(-2, 2, 7), false), LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 5);
+    EXPECT_EQ(value_of(record, 1), 7);
+}
+
+TEST(LoadArrays, AShorterZFailsAtItsFirstMissingElementAndKeepsTheSitesBefore)
+{
+    panel record;
+    EXPECT_EQ(load_arrays(record, counted(1, 5, 1), counted(1, 5, 1), counted(1, 3, 7), false),
+              LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 5);
+    EXPECT_EQ(value_of(record, 3), 9);
+    EXPECT_EQ(value_of(record, 4), 0);
+    EXPECT_EQ(record.maxi, 0);
+}
+
+TEST(LoadArrays, AWrongXAloneIsRefusedByNeitherBoundAndFailsWhenItEnds)
+{
+    panel record;
+    EXPECT_EQ(load_arrays(record, counted(1, 7, 1), counted(1, 5, 1), counted(1, 5, 7), false),
+              LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 7);
+    EXPECT_EQ(value_of(record, 5), 11);
+}
+
+TEST(LoadArrays, ThreeDifferentUpperBoundsEndWith1AndKeepTheOldData)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    EXPECT_EQ(load_arrays(record, counted(1, 5, 1), counted(1, 6, 1), counted(1, 7, 7), false),
+              LoadResult::UpperBoundsDiffer);
+    EXPECT_EQ(record.GetNop(), 2);
+    EXPECT_EQ(value_of(record, 2), 8);
+}
+
+TEST(LoadArrays, ThreeDifferentLowerBoundsEndWith2AndKeepTheOldData)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    EXPECT_EQ(load_arrays(record, counted(1, 5, 1), counted(2, 5, 1), counted(3, 5, 7), false),
+              LoadResult::LowerBoundsDiffer);
+    EXPECT_EQ(value_of(record, 2), 8);
+}
+
+TEST(LoadArrays, ABoundBeyond16BitsFailsBeforeTheOldDataGo)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    Array const far = counted(40000, 40001, 1);
+    EXPECT_EQ(load_arrays(record, far, far, far, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(value_of(record, 2), 8);
+}
+
+TEST(LoadArrays, ArraysWithoutBoundsFailBeforeTheOldDataGo)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    EXPECT_EQ(load_arrays(record, Array(), Array(), Array(), false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(value_of(record, 2), 8);
+}
+
+TEST(LoadArrays, EmptyArraysFailAfterTheOldDataAreGone)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    Array const none = counted(0, -1, 0);
+    EXPECT_EQ(load_arrays(record, none, none, none, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 0);
+    EXPECT_EQ(record.maxi, 8);
+}
+
+TEST(LoadArrays, ALastIndexOf32767StoresAllSitesAndFailsWithoutStatistics)
+{
+    panel record;
+    Array const x = counted(1, 32767, 0);
+    EXPECT_EQ(load_arrays(sized(record), x, x, counted(1, 32767, 1), false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 32767);
+    EXPECT_EQ(value_of(record, 32767), 32767);
+    EXPECT_EQ(record.maxi, 0);
+}
+
+TEST(LoadArrays, ArraysFrom0To32767StoreWhatSiteNumbersReachAndFail)
+{
+    panel record;
+    Array const x = counted(0, 32767, 1);
+    EXPECT_EQ(load_arrays(record, x, x, x, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 32768);
+    EXPECT_EQ(value_of(record, 32767), 32767);
+}
+
+TEST(LoadArrays, KeptLimitsOutliveNewData)
+{
+    panel record;
+    load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+    record.setMaximalMinial(100, 50);
+    EXPECT_EQ(load_arrays(record, counted(1, 3, 1), counted(1, 3, 1), counted(1, 3, 20), true), LoadResult::Done);
+    EXPECT_EQ(record.maximal, 100);
+    EXPECT_EQ(record.minimal, 50);
+    EXPECT_EQ(record.range, 50);
+    EXPECT_EQ(record.maxi, 22);
+    EXPECT_EQ(record.mini, 20);
+}
+
+TEST(LoadArrays, LimitsThatAreNotKeptFollowTheData)
+{
+    panel record;
+    record.setMaximalMinial(100, 50);
+    load_arrays(record, counted(1, 3, 1), counted(1, 3, 1), counted(1, 3, 20), false);
+    EXPECT_EQ(record.maximal, 22);
+}
+
+TEST_F(LoadFile, ReadsTheBlocksOfXThenYThenZInLittleEndianOrder)
+{
+    panel record;
+    EXPECT_EQ(load_file(record, write("six.dat", six_values()), 2, false), LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 2);
+    Array position(1, {0, 0});
+    EXPECT_EQ(record.GetGridValue(1, position), 5);
+    EXPECT_EQ(position(1), 1);
+    EXPECT_EQ(position(2), 3);
+    EXPECT_EQ(record.GetGridValue(2, position), 6);
+    EXPECT_EQ(record.maxi, 6);
+}
+
+TEST_F(LoadFile, ReadsALongerFileJustAsFarAsTheCountAsksAndLeavesItAsItWas)
+{
+    panel record;
+    EXPECT_EQ(load_file(record, write("six.dat", six_values()), 1, false), LoadResult::Done);
+    EXPECT_EQ(value_of(record, 1), 3);
+    EXPECT_EQ(read("six.dat"), six_values());
+}
+
+TEST_F(LoadFile, WhatAShortFileLacksIsZeroWithoutAFailure)
+{
+    panel record;
+    std::string const cut = six_values().substr(0, 5 * 8 + 7);
+    EXPECT_EQ(load_file(record, write("cut.dat", cut), 2, false), LoadResult::Done);
+    EXPECT_EQ(value_of(record, 1), 5);
+    EXPECT_EQ(value_of(record, 2), 0);
+    EXPECT_TRUE(record.FW_NUll);
+}
+
+TEST_F(LoadFile, AMissingFileIsCreatedEmptyAndGivesSitesOfZero)
+{
+    panel record;
+    EXPECT_EQ(load_file(record, path("new.dat"), 4, false), LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 4);
+    EXPECT_TRUE(record.FW_NUll);
+    EXPECT_EQ(value_of(record, 4), 0);
+    ASSERT_TRUE(std::filesystem::exists(path("new.dat")));
+    EXPECT_EQ(std::filesystem::file_size(path("new.dat")), 0u);
+}
+
+TEST_F(LoadFile, APathThatCannotBeOpenedEndsWith4AfterTheOldDataAreGone)
+{
+    panel record;
+    load_file(record, write("six.dat", six_values()), 2, false);
+    for (std::string const& bad : {path("no/such/folder.dat"), folder_.string(), std::string()}) {
+        EXPECT_EQ(load_file(record, bad, 3, false), LoadResult::RunTimeFailure);
+        EXPECT_EQ(record.GetNop(), 3);
+        EXPECT_EQ(value_of(record, 1), 0);
+    }
+    EXPECT_EQ(record.maxi, 6);
+}
+
+TEST_F(LoadFile, ANegativeCountFailsBeforeAFileIsMade)
+{
+    panel record;
+    EXPECT_EQ(load_file(record, path("new.dat"), -2, false), LoadResult::RunTimeFailure);
+    EXPECT_FALSE(std::filesystem::exists(path("new.dat")));
+}
+
+TEST_F(LoadFile, ACountOf32767StoresAllSitesAndFailsWithoutStatistics)
+{
+    panel record;
+    std::string const one = six_values().substr(0, 8);
+    std::string bytes;
+    for (int i = 0; i < 3 * 32767; ++i)
+        bytes += one;
+    EXPECT_EQ(load_file(sized(record), write("most.dat", bytes), 32767, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(value_of(record, 32767), 1);
+    EXPECT_EQ(record.maxi, 0);
+}
+
+TEST_F(LoadFile, ACountBeyond16BitsFailsWithTheFileMadeAndNoSiteStored)
+{
+    panel record;
+    EXPECT_EQ(load_file(record, path("new.dat"), 1e9, false), LoadResult::RunTimeFailure);
+    EXPECT_TRUE(std::filesystem::exists(path("new.dat")));
+    EXPECT_EQ(record.GetNop(), 1e9);
+    EXPECT_FALSE(record.FW_NUll);
+}
+
+TEST_F(LoadFile, KeptLimitsOutliveNewData)
+{
+    panel record;
+    record.setMaximalMinial(100, 50);
+    EXPECT_EQ(load_file(record, write("six.dat", six_values()), 2, true), LoadResult::Done);
+    EXPECT_EQ(record.maximal, 100);
+    EXPECT_EQ(record.minimal, 50);
+    EXPECT_EQ(record.maxi, 6);
+}
+
+TEST(ReadSites, BeforeAnyLoadThereAreNoneAndTheArraysStay)
+{
+    panel const record;
+    Array x(3, {1}), y(4, {2}), Z(5, {3});
+    EXPECT_EQ(read_sites(record, x, y, Z), 0);
+    EXPECT_EQ(x(3), 1);
+    EXPECT_EQ(y(4), 2);
+    EXPECT_EQ(Z(5), 3);
+}
+
+TEST(ReadSites, GivesWhatWasLoadedWithTheBounds1ToTheirNumber)
+{
+    panel record;
+    load_arrays(record, counted(0, 2, 1), counted(0, 2, 4), counted(0, 2, 7), false);
+    Array x, y, Z(9, {1, 2, 3, 4, 5});
+    EXPECT_EQ(read_sites(record, x, y, Z), 3);
+    EXPECT_EQ(x.lower_bound(), 1);
+    EXPECT_EQ(Z.upper_bound(), 3);
+    EXPECT_EQ(x(1), 1);
+    EXPECT_EQ(y(2), 5);
+    EXPECT_EQ(Z(3), 9);
+}
+
+TEST(ReadSites, TheCounterOverflowsBehindSite32767)
+{
+    panel record;
+    record.SetNop(32767);
+    record.SetGridValueD(32767, 1, 2, 3);
+    Array x, y, Z;
+    std::optional<FailureKind> kind;
+    try {
+        read_sites(record, x, y, Z);
+    } catch (Failure const& failure) {
+        kind = failure.kind();
+    }
+    EXPECT_EQ(kind, FailureKind::Overflow);
+    EXPECT_EQ(Z(32767), 3);
+}
+
+} // namespace
+} // namespace zendara
