@@ -1,0 +1,42 @@
+#include "controls/control.hpp"
+#include "controls/stored_properties.hpp"
+#include "controls/zv_plot_2d.hpp"
+#include "controls/zv_plot_2ds.hpp"
+#include "controls/zv_plot_2dv.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace zendara
+{
+
+namespace
+{
+
+template <class C> std::unique_ptr<Control> make(Platform& platform)
+{
+    return std::make_unique<C>(platform);
+}
+
+constexpr std::array classes = {
+    ControlClass{"ZvPlot2D", &make<ZvPlot2D>, &ZvPlot2D::interface_table, &stored_properties_of_2d},
+    ControlClass{"ZvPlot2DV", &make<ZvPlot2DV>, &ZvPlot2DV::interface_table, &stored_properties_of_2dv},
+    ControlClass{"ZvPlot2DS", &make<ZvPlot2DS>, &ZvPlot2DS::interface_table, &stored_properties_of_2ds},
+};
+
+} // namespace
+
+std::span<ControlClass const> control_classes()
+{
+    return classes;
+}
+
+ControlClass const* find_control_class(std::string_view name)
+{
+    auto const found = std::find_if(classes.begin(), classes.end(), [&](ControlClass const& candidate) {
+        return equals_ignoring_case(candidate.name, name);
+    });
+    return found == classes.end() ? nullptr : &*found;
+}
+
+} // namespace zendara

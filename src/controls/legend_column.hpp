@@ -1,0 +1,30 @@
+#pragma once
+
+#include "form/children.hpp"
+
+namespace zendara
+{
+
+/// The column at the right: the legend, the small figure of the panel, and the options button.
+class LegendColumn
+{
+public:
+    explicit LegendColumn(Window& window);
+
+    Frame frmove;
+    Frame Frame1;
+    Frame frleg;
+    Frame legende;
+    ChildArray<Label> ScaleValue;
+    ChildArray<Label> scalCol;
+    Frame FNLabel;
+    PictureBox FNPic;
+    Button Command1;
+
+    /// Makes the column as wide as its widest legend text asks for and sets it at the window's right edge.
+    void lay_out(double window_width);
+
+    void BackColor(Color color);
+};
+
+} // namespace zendara

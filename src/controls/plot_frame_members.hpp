@@ -1,0 +1,106 @@
+#pragma once
+
+#include "controls/plot_frame.hpp"
+#include "controls/shared_members.hpp"
+
+namespace zendara
+{
+
+/// The public members of the controls with a plot beside a legend, beyond those that all nine share. It holds no
+/// state: `Self` owns a PlotFrame as `plot_frame_` and fills in missing settings in `prepare_plot`.
+template <class Self> class PlotFrameMembers : public SharedMembers<Self>
+{
+public:
+    /// Lays the control out and draws it where the picture does not hold.
+    /// @return  0 done, 1 there are no data
+    std::int16_t Plot()
+    {
+        if (frame().record.GetNop() == 0)
+            return 1;
+        frame().plot_requested = true;
+        self().prepare_plot();
+        plot_frame().lay_out();
+        return 0;
+    }
+
+    /// Colour around the plot; the plot keeps its own.
+    Color BackColor() const { return plot_frame().BackColor(); }
+    void BackColor(Color color)
+    {
+        plot_frame().BackColor(color);
+        frame().report_change("BackColor");
+    }
+
+    /// Hides the column with the legend; the plot then takes the whole control.
+    BooleanWord HideLegend() const { return !frame().legend_shown; }
+    void HideLegend(BooleanWord is_hidden)
+    {
+        plot_frame().show_legend(!is_hidden);
+        frame().window.Refresh();
+        plot_frame().lay_out();
+        frame().report_change("HideLegend");
+    }
+
+    /// Text in the upper edge of the plot's frame.
+    std::string PlotCaption() const { return plot_frame().view.Frplot.caption(); }
+    void PlotCaption(std::string caption)
+    {
+        plot_frame().view.Frplot.caption(std::move(caption));
+        frame().window.Refresh();
+        frame().report_change("PlotCaption");
+    }
+
+    /// Makes the next Plot draw anew.
+    void SetPlotNotVaild() { frame().image_valid = false; }
+
+protected:
+    /// What the start values of these controls have in common.
+    void start_frame()
+    {
+        this->start_sizes();
+        plot_frame().show_legend(true);
+        plot_frame().view.Frplot.caption("Panel");
+    }
+
+    void clear_display() { plot_frame().clear_display(); }
+    void drop_stored_picture() { plot_frame().drop_stored_picture(); }
+
+private:
+    friend class SharedMembers<Self>;
+
+    Self& self() { return static_cast<Self&>(*this); }
+    ControlFrame& frame() { return static_cast<Self&>(*this).frame_; }
+    ControlFrame const& frame() const { return static_cast<Self const&>(*this).frame_; }
+    PlotFrame& plot_frame() { return static_cast<Self&>(*this).plot_frame_; }
+    PlotFrame const& plot_frame() const { return static_cast<Self const&>(*this).plot_frame_; }
+};
+
+template <class C> Member plot_row()
+{
+    return method<C, &PlotFrameMembers<C>::Plot>("Plot", {}, "Shows the plot: 0 done, 1 no data.");
+}
+
+template <class C> Member back_color_row()
+{
+    using P = PlotFrameMembers<C>;
+    return color_row<C, P, &P::BackColor, &P::BackColor>("BackColor", "Colour around the plot.");
+}
+
+template <class C> std::vector<Member> legend_and_caption_rows()
+{
+    using P = PlotFrameMembers<C>;
+    constexpr auto put_first = MemberKind::PutGet;
+    return {
+        accessors<C, P, BooleanWord, BooleanWord, &P::HideLegend, &P::HideLegend>("HideLegend", put_first,
+                                                                                  "Hides the legend."),
+        accessors<C, P, std::string, std::string, &P::PlotCaption, &P::PlotCaption>("PlotCaption", put_first,
+                                                                                    "Caption of the plot."),
+    };
+}
+
+template <class C> Member set_plot_not_valid_row()
+{
+    return method<C, &PlotFrameMembers<C>::SetPlotNotVaild>("SetPlotNotVaild", {}, "Makes the next Plot draw anew.");
+}
+
+} // namespace zendara

@@ -1,0 +1,45 @@
+#include "controls/print_check.hpp"
+
+#include "controls/print_members.hpp"
+
+namespace zendara
+{
+
+namespace
+{
+
+constexpr double smallest_printed_control = 750; // twips, in both directions
+
+} // namespace
+
+bool has_print_input(ControlFrame const& frame)
+{
+    return frame.record.GetNop() != 0 && frame.printer != nullptr;
+}
+
+PrintCheck check_plot_print(ControlFrame const& frame)
+{
+    if (!has_print_input(frame))
+        return PrintCheck::NothingToPrint;
+    if (frame.window.Width() < smallest_printed_control || frame.window.Height() < smallest_printed_control)
+        return PrintCheck::ControlTooSmall;
+    return PrintCheck::Ready;
+}
+
+void no_page_layout(char const* member)
+{
+    throw Failure(FailureKind::InvalidProcedureCall, std::string(member) + ": this version cannot print yet");
+}
+
+std::vector<Argument> print_box()
+{
+    return {by_value("left"), by_value("top"), by_value("width"), by_value("height")};
+}
+
+std::vector<Argument> with_draw_frame(std::vector<Argument> arguments)
+{
+    arguments.push_back(optional(by_reference("DrawFrame"), BooleanWord(true).word));
+    return arguments;
+}
+
+} // namespace zendara

@@ -1,0 +1,83 @@
+#include "controls/zv_plot_2d.hpp"
+
+#include "controls/resolution_limit.hpp"
+#include "controls/stored_properties.hpp"
+
+namespace zendara
+{
+
+ZvPlot2D::ZvPlot2D(Platform& platform)
+    : frame_(*this, platform, "ZvPlot2D"),
+      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_map(); }); }})
+{
+    plot_frame_.forward_events();
+    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+}
+
+void ZvPlot2D::InitProperties()
+{
+    start_frame();
+    raster_ = {};
+}
+
+void ZvPlot2D::prepare_plot()
+{
+    default_sizes_crossed();
+    raster_.fill_in_defaults();
+}
+
+void ZvPlot2D::fill_legend()
+{
+    frame_.record.scale_colored(plot_frame_.column.scalCol, plot_frame_.column.ScaleValue);
+}
+
+void ZvPlot2D::draw_map()
+{
+    constexpr std::int16_t ten_intervals = 5;
+    if (limit_resolution(frame_.record, raster_.resolution_x, raster_.resolution_y, frame_.platform()))
+        ShowPlotOption();
+    plot_frame_.show_position(0, 90);
+    frame_.record.D2Plot(plot_frame_.view.PLOTA.surface(), raster_.resolution_x, raster_.resolution_y, ten_intervals, 0,
+                         raster_.shows_sites.word, 0, 0, 0, 0, 0);
+}
+
+void ZvPlot2D::ShowPlotOption() {}
+
+std::int16_t ZvPlot2D::PrintGridPlot(double, double, double, double)
+{
+    return refuse_or_fail("PrintGridPlot");
+}
+
+std::vector<StoredProperty> const& ZvPlot2D::stored_properties() const
+{
+    return stored_properties_of_2d();
+}
+
+Interface const& ZvPlot2D::interface_table()
+{
+    using Z = ZvPlot2D;
+    static Interface const table{
+        "ZvPlot2D", "Colour map of one panel.",
+        join({
+            platform_rows<Z>(),
+            statistics_rows<Z>(),
+            size_rows<Z>(),
+            raster_rows<Z>(),
+            {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
+            limit_rows<Z>(),
+            {set_panel_data_row<Z>()},
+            legend_and_caption_rows<Z>(),
+            {print_plot_row<Z>(), method<Z, &Z::PrintGridPlot>("PrintGridPlot",
+                                                               {by_reference("left"), by_reference("top"),
+                                                                by_reference("width"), by_reference("height")},
+                                                               "Prints the site numbers.")},
+            print_block_rows<Z>(),
+            read_out_rows<Z>(),
+            interval_color_rows<Z>(),
+            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
+        }),
+        control_events()};
+    return table;
+}
+
+} // namespace zendara

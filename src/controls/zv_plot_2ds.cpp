@@ -1,0 +1,73 @@
+#include "controls/zv_plot_2ds.hpp"
+
+#include "controls/resolution_limit.hpp"
+#include "controls/stored_properties.hpp"
+
+namespace zendara
+{
+
+ZvPlot2DS::ZvPlot2DS(Platform& platform)
+    : frame_(*this, platform, "ZvPlot2DS"), plot_frame_(frame_, {[this] { signs_.fill_legend(frame_.record, sigma_); },
+                                                                 [this] { plot_frame_.draw([this] { draw_map(); }); }}),
+      signs_(plot_frame_.column)
+{
+    plot_frame_.forward_events();
+    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+}
+
+void ZvPlot2DS::InitProperties()
+{
+    start_frame();
+    raster_ = {};
+    sigma_ = {};
+}
+
+void ZvPlot2DS::prepare_plot()
+{
+    default_sizes_crossed();
+    raster_.fill_in_defaults();
+}
+
+void ZvPlot2DS::draw_map()
+{
+    constexpr std::int16_t sigma_bands = 0;
+    if (limit_resolution(frame_.record, raster_.resolution_x, raster_.resolution_y, frame_.platform()))
+        ShowPlotOption();
+    plot_frame_.show_position(0, 90);
+    signs_.fill_legend(frame_.record, sigma_);
+    frame_.record.D2Plot(plot_frame_.view.PLOTA.surface(), raster_.resolution_x, raster_.resolution_y, sigma_bands,
+                         sigma_.range, raster_.shows_sites.word, 0, 0, 0, 0, 0);
+}
+
+void ZvPlot2DS::ShowPlotOption() {}
+
+std::vector<StoredProperty> const& ZvPlot2DS::stored_properties() const
+{
+    return stored_properties_of_2ds();
+}
+
+Interface const& ZvPlot2DS::interface_table()
+{
+    using Z = ZvPlot2DS;
+    static Interface const table{"ZvPlot2DS", "Sigma map of one panel.",
+                                 join({
+                                     platform_rows<Z>(),
+                                     statistics_rows<Z>(),
+                                     size_rows<Z>(),
+                                     raster_rows<Z>(),
+                                     {sigma_range_row<Z>()},
+                                     {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
+                                     limit_rows<Z>(),
+                                     {set_panel_data_row<Z>()},
+                                     legend_and_caption_rows<Z>(),
+                                     {print_plot_row<Z>()},
+                                     print_block_rows<Z>(),
+                                     read_out_rows<Z>(),
+                                     sigma_color_rows<Z>(),
+                                     {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
+                                 }),
+                                 control_events()};
+    return table;
+}
+
+} // namespace zendara

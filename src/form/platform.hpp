@@ -1,0 +1,64 @@
+#pragma once
+
+#include "render/font.hpp"
+#include "render/surface.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace zendara
+{
+
+class Form;
+class PictureBox;
+
+/// Parts of a message box's style; a style is their sum.
+constexpr int message_critical = 16;
+constexpr int message_information = 64;
+constexpr int message_system_modal = 4096;
+
+/// The few services that a container gives to the controls in it.
+class Platform
+{
+public:
+    virtual ~Platform() = default;
+
+    /// Shows a message box and waits until the user has closed it.
+    virtual void message_box(std::string_view text, int style, std::string_view title) = 0;
+
+    /// Lets other messages of the user interface in, once.
+    virtual void do_events() = 0;
+
+    /// Shows a form modally; returns when the user has closed it.
+    virtual void show_modal(Form& form) = 0;
+
+    virtual double twips_per_pixel_x() const = 0;
+    virtual double twips_per_pixel_y() const = 0;
+
+    /// The folder of the library, and its version as users read it.
+    virtual std::string application_path() const = 0;
+    virtual std::string version() const = 0;
+
+    virtual void set_help_file(std::string const& file) = 0;
+
+    /// The printer that a new control prints to; nullptr where there is none.
+    virtual Surface* default_printer() = 0;
+
+    /// The drawing surface of a picture box.
+    virtual std::unique_ptr<Surface> make_surface(PictureBox& box) = 0;
+
+    /// Extent of a text in twips, as a label shows it.
+    struct Extent {
+        double width = 0;
+        double height = 0;
+    };
+    virtual Extent text_extent(FontFace const& face, std::string_view text) = 0;
+
+    /// Handles of the platform for a control's window, 0 where it has none.
+    virtual std::int32_t device_handle() const { return 0; }
+    virtual std::int32_t window_handle() const { return 0; }
+};
+
+} // namespace zendara

@@ -1,0 +1,102 @@
+#include "platform/headless/headless_platform.hpp"
+
+#include "render/raster_picture.hpp"
+#include "support/checked.hpp"
+#include "support/locale.hpp"
+
+#include <clocale>
+#include <langinfo.h>
+#include <locale.h>
+#include <utility>
+
+namespace zendara
+{
+
+namespace
+{
+
+constexpr double twips_per_pixel = 15;
+
+// The user's decimal mark, without touching the locale of the process.
+std::string decimal_mark_of_user()
+{
+    locale_t const users = newlocale(LC_NUMERIC_MASK, "", static_cast<locale_t>(nullptr));
+    if (users == static_cast<locale_t>(nullptr))
+        return ".";
+    std::string mark = nl_langinfo_l(RADIXCHAR, users);
+    freelocale(users);
+    return mark;
+}
+
+int to_pixels(double twips)
+{
+    return twips > 0 ? to_i32(twips / twips_per_pixel) : 0;
+}
+
+Recorder::PictureArea area_of(PictureBox const& box)
+{
+    return {0, 0, box.Width() / twips_per_pixel, box.Height() / twips_per_pixel};
+}
+
+} // namespace
+
+HeadlessPlatform::HeadlessPlatform(Pictures pictures) : pictures_(pictures), application_path_("/usr/share/zendara")
+{
+    if (pictures_ == Pictures::Recorded)
+        default_printer_ = Recorder::printer(2.4, 2.4);
+    set_decimal_separator(pictures_ == Pictures::Recorded ? "." : decimal_mark_of_user());
+}
+
+std::vector<HeadlessPlatform::MessageBox> HeadlessPlatform::take_messages()
+{
+    return std::exchange(messages_, {});
+}
+
+void HeadlessPlatform::message_box(std::string_view text, int style, std::string_view title)
+{
+    messages_.push_back({std::string(title), std::string(text), style});
+}
+
+void HeadlessPlatform::do_events()
+{
+    if (on_do_events)
+        on_do_events();
+}
+
+void HeadlessPlatform::show_modal(Form& form)
+{
+    if (on_modal)
+        on_modal(form);
+}
+
+std::string HeadlessPlatform::version() const
+{
+    return ZENDARA_VERSION;
+}
+
+std::unique_ptr<Surface> HeadlessPlatform::make_surface(PictureBox& box)
+{
+    if (pictures_ == Pictures::Recorded) {
+        auto recorder = Recorder::picture(area_of(box));
+        box.on_size = [&box, surface = recorder.get()] { surface->set_area(area_of(box)); };
+        return recorder;
+    }
+    auto picture = std::make_unique<RasterPicture>(to_pixels(box.Width()), to_pixels(box.Height()), glyphs_,
+                                                   twips_per_pixel, box.BackColor());
+    box.on_size = [&box, surface = picture.get()] { surface->resize(to_pixels(box.Width()), to_pixels(box.Height())); };
+    return picture;
+}
+
+Platform::Extent HeadlessPlatform::text_extent(FontFace const& face, std::string_view text)
+{
+    if (pictures_ == Pictures::Recorded) {
+        Recorder measure;
+        measure.Font = face;
+        return {measure.TextWidth(text) * twips_per_pixel, measure.TextHeight(text) * twips_per_pixel};
+    }
+    RasterPicture measure(0, 0, glyphs_);
+    measure.Font = face;
+    return {measure.TextWidth(text) * twips_per_pixel, measure.TextHeight(text) * twips_per_pixel};
+}
+
+} // namespace zendara
