@@ -1,0 +1,62 @@
+#pragma once
+
+#include "user_error.hpp"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zendara::program
+{
+
+/// A width and a height, of a panel in millimetres or of a picture in pixels.
+struct Size {
+    double width = 0;
+    double height = 0;
+};
+
+/// Reads "300x200".
+/// @param option  named in the message
+/// @throws UserError  when the text is not two numbers above 0
+Size parse_size(std::string const& option, std::string const& text);
+
+/// Where the sites come from, and on what panel they lie.
+struct DataOptions {
+    std::string file;
+    std::optional<std::int64_t> sites; // of a raw file; by default its size tells
+    std::string size = "300x200";      // of the panel, in millimetres
+};
+
+struct PlotOptions {
+    DataOptions data;
+    std::string control = "ZvPlot2D";
+    std::string pixels = "1000x700";
+    std::vector<std::string> settings; // NAME=VALUE
+    std::vector<double> limits;        // none, or the lower and the upper
+    std::string output;                // by default the data file's name with .png
+};
+
+struct StatsOptions {
+    DataOptions data;
+    std::string format = "text";
+};
+
+struct RunOptions {
+    std::string script; // "-" is standard input
+    bool trace = false;
+};
+
+struct ControlsOptions {
+    std::string name; // empty: the list of all
+    std::string format = "text";
+};
+
+// Each command throws UserError for bad input, with nothing written by then.
+
+Exit plot(PlotOptions const& options);
+Exit stats(StatsOptions const& options);
+Exit run(RunOptions const& options);
+Exit controls(ControlsOptions const& options);
+
+} // namespace zendara::program

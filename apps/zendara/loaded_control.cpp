@@ -1,0 +1,120 @@
+#include "loaded_control.hpp"
+
+#include "data_file.hpp"
+#include "near_names.hpp"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace zendara::program
+{
+
+namespace
+{
+
+// A file of one site more is read, but the 16-bit counter of that route fails behind its last site.
+constexpr std::size_t most_sites_of_a_file = 32766;
+
+std::optional<double> length_in(std::string_view text)
+{
+    double value = 0;
+    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    bool const is_length =
+        error == std::errc() && stop == text.data() + text.size() && std::isfinite(value) && value > 0;
+    return is_length ? std::optional(value) : std::nullopt;
+}
+
+ControlClass const& control_class(std::string const& name)
+{
+    if (auto const* const found = find_control_class(name))
+        return *found;
+    std::vector<std::string_view> names;
+    for (auto const& known : control_classes())
+        names.push_back(known.name);
+    auto const hint = did_you_mean(name, names);
+    throw UserError("--control: there is no control \"" + name + "\"; " +
+                    (hint.empty() ? "\"zendara controls\" lists them" : hint));
+}
+
+std::string text_of(Size const& size)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%g x %g mm", size.width, size.height);
+    return text;
+}
+
+void warn_of_sites_beyond(Size const& panel_mm, SiteData const& sites, std::string const& file)
+{
+    auto const x = sites.x.values();
+    auto const y = sites.y.values();
+    std::size_t beyond = 0;
+    for (std::size_t i = 0; i < x.size(); ++i)
+        if (std::abs(x[i]) > panel_mm.width / 2 || std::abs(y[i]) > panel_mm.height / 2)
+            ++beyond;
+    if (beyond > 0)
+        std::fprintf(stderr,
+                     "zendara: warning: %s: %zu of %zu sites lie beyond the panel of %s; tell its size by --size\n",
+                     file.c_str(), beyond, x.size(), text_of(panel_mm).c_str());
+}
+
+bool is_done(Value const& result)
+{
+    return to_double(result) == 0;
+}
+
+bool loads_from_file(Control& control, SiteData const& sites, std::string const& file)
+{
+    if (sites.source != SiteData::Source::Raw || sites.count() > most_sites_of_a_file)
+        return false;
+    std::vector<Value> arguments = {file, static_cast<double>(sites.count())};
+    return is_done(call_member(control, "SetDataFile", arguments));
+}
+
+bool loads_from_arrays(Control& control, SiteData const& sites)
+{
+    std::vector<Value> arguments = {sites.x, sites.y, sites.z};
+    return is_done(call_member(control, "SetPanelData", arguments));
+}
+
+} // namespace
+
+Size parse_size(std::string const& option, std::string const& text)
+{
+    auto const cross = text.find_first_of("xX");
+    if (cross != std::string::npos) {
+        auto const width = length_in(std::string_view(text).substr(0, cross));
+        auto const height = length_in(std::string_view(text).substr(cross + 1));
+        if (width && height)
+            return {*width, *height};
+    }
+    throw UserError(option + ": expected WIDTHxHEIGHT, 300x200 for example, not \"" + text + "\"");
+}
+
+LoadedControl::LoadedControl(std::string const& control, Size const& pixels, DataOptions const& data)
+{
+    auto const& wanted = control_class(control);
+    Size const panel_mm = parse_size("--size", data.size);
+    SiteData const sites = read_data_file(data.file, data.sites);
+    site_count_ = sites.count();
+
+    control_ = wanted.make(platform_);
+    control_->InitProperties();
+    control_->window().resize(pixels.width * platform_.twips_per_pixel_x(),
+                              pixels.height * platform_.twips_per_pixel_y());
+    put_member(*control_, "PanelSizeX", panel_mm.width);
+    put_member(*control_, "PanelSizeY", panel_mm.height);
+
+    // The file route wants to open the file for writing as well; a file that may only be read goes in by arrays.
+    if (!loads_from_file(*control_, sites, data.file) && !loads_from_arrays(*control_, sites))
+        throw UserError(data.file +
+                        ": the sites cannot be taken: a value is too large, or a site lies far beyond the "
+                        "panel of " +
+                        text_of(panel_mm) + " (--size)");
+    warn_of_sites_beyond(panel_mm, sites, data.file);
+}
+
+} // namespace zendara::program
