@@ -25,7 +25,7 @@ Size parse_size(std::string const& option, std::string const& text);
 struct DataOptions {
     std::string file;
     std::optional<std::int64_t> sites; // of a raw file; by default its size tells
-    std::string size = "300x200";      // of the panel, in millimetres
+    std::string size;                  // of the panel, in millimetres; empty: 300x200, or what holds all sites
 };
 
 struct PlotOptions {
@@ -35,6 +35,13 @@ struct PlotOptions {
     std::vector<std::string> settings; // NAME=VALUE
     std::vector<double> limits;        // none, or the lower and the upper
     std::string output;                // by default the data file's name with .png
+};
+
+struct GalleryOptions {
+    DataOptions data;
+    std::string pixels = "1000x700";
+    std::vector<double> limits; // none, or the lower and the upper
+    std::string folder;
 };
 
 struct StatsOptions {
@@ -55,6 +62,7 @@ struct ControlsOptions {
 // Each command throws UserError for bad input, with nothing written by then.
 
 Exit plot(PlotOptions const& options);
+Exit gallery(GalleryOptions const& options);
 Exit stats(StatsOptions const& options);
 Exit run(RunOptions const& options);
 Exit controls(ControlsOptions const& options);

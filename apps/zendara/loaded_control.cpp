@@ -3,10 +3,12 @@
 #include "data_file.hpp"
 #include "near_names.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -61,6 +63,25 @@ void warn_of_sites_beyond(Size const& panel_mm, SiteData const& sites, std::stri
                      file.c_str(), beyond, x.size(), text_of(panel_mm).c_str());
 }
 
+/// The smallest panel about its centre that holds all sites.
+Size size_around(SiteData const& sites)
+{
+    auto const reach = [](std::span<double const> coordinates) {
+        double largest = 0;
+        for (double const coordinate : coordinates)
+            largest = std::max(largest, std::abs(coordinate));
+        return 2 * largest;
+    };
+    double const width = reach(sites.x.values());
+    double const height = reach(sites.y.values());
+    return {width > 0 ? width : height, height > 0 ? height : width};
+}
+
+bool holds(Size const& panel_mm, Size const& extent)
+{
+    return extent.width <= panel_mm.width && extent.height <= panel_mm.height;
+}
+
 bool is_done(Value const& result)
 {
     return to_double(result) == 0;
@@ -97,24 +118,35 @@ Size parse_size(std::string const& option, std::string const& text)
 LoadedControl::LoadedControl(std::string const& control, Size const& pixels, DataOptions const& data)
 {
     auto const& wanted = control_class(control);
-    Size const panel_mm = parse_size("--size", data.size);
+    if (!data.size.empty())
+        panel_mm_ = parse_size("--size", data.size);
     SiteData const sites = read_data_file(data.file, data.sites);
     site_count_ = sites.count();
+    choose_panel(data.size, sites);
 
     control_ = wanted.make(platform_);
     control_->InitProperties();
     control_->window().resize(pixels.width * platform_.twips_per_pixel_x(),
                               pixels.height * platform_.twips_per_pixel_y());
-    put_member(*control_, "PanelSizeX", panel_mm.width);
-    put_member(*control_, "PanelSizeY", panel_mm.height);
+    put_member(*control_, "PanelSizeX", panel_mm_.width);
+    put_member(*control_, "PanelSizeY", panel_mm_.height);
 
     // The file route wants to open the file for writing as well; a file that may only be read goes in by arrays.
     if (!loads_from_file(*control_, sites, data.file) && !loads_from_arrays(*control_, sites))
         throw UserError(data.file +
                         ": the sites cannot be taken: a value is too large, or a site lies far beyond the "
                         "panel of " +
-                        text_of(panel_mm) + " (--size)");
-    warn_of_sites_beyond(panel_mm, sites, data.file);
+                        text_of(panel_mm_) + " (--size)");
+    warn_of_sites_beyond(panel_mm_, sites, data.file);
+}
+
+// Without a size from the user, the usual panel is taken as long as it holds all sites.
+void LoadedControl::choose_panel(std::string const& size, SiteData const& sites)
+{
+    Size const needed = size_around(sites);
+    is_panel_fitted_ = size.empty() && !holds(panel_mm_, needed);
+    if (is_panel_fitted_)
+        panel_mm_ = needed;
 }
 
 } // namespace zendara::program

@@ -2,6 +2,7 @@
 
 #include "commands.hpp"
 #include "controls/control.hpp"
+#include "data_file.hpp"
 #include "platform/headless/headless_platform.hpp"
 
 #include <memory>
@@ -21,11 +22,18 @@ public:
     HeadlessPlatform& platform() { return platform_; }
     Control& control() { return *control_; }
     std::size_t site_count() const { return site_count_; }
+    Size const& panel_mm() const { return panel_mm_; }
+    /// Whether the panel is larger than usual because its sites ask for it.
+    bool is_panel_fitted() const { return is_panel_fitted_; }
 
 private:
+    void choose_panel(std::string const& size, SiteData const& sites);
+
     HeadlessPlatform platform_; // outlives the control
     std::unique_ptr<Control> control_;
     std::size_t site_count_ = 0;
+    Size panel_mm_ = {300, 200};
+    bool is_panel_fitted_ = false;
 };
 
 } // namespace zendara::program

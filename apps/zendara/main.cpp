@@ -19,8 +19,19 @@ using namespace zendara::program;
 void add_data_options(CLI::App& command, DataOptions& data)
 {
     command.add_option("DATA", data.file, "Sites: a CSV with the columns x, y, z, or raw 64-bit floats")->required();
-    command.add_option("--size", data.size, "Width and height of the panel in mm")->capture_default_str();
+    command.add_option("--size", data.size,
+                       "Width and height of the panel in mm; by default 300x200, or what holds all sites");
     command.add_option("--sites", data.sites, "Sites in a raw file; by default its size / 24");
+}
+
+void add_limits(CLI::App& command, std::vector<double>& limits)
+{
+    command.add_option("--limits", limits, "Lower and upper limit of the colour scale")->expected(2);
+}
+
+void add_pixels(CLI::App& command, std::string& pixels)
+{
+    command.add_option("--pixels", pixels, "Width and height of the picture")->capture_default_str();
 }
 
 CLI::App& add_plot(CLI::App& program, PlotOptions& options)
@@ -28,11 +39,21 @@ CLI::App& add_plot(CLI::App& program, PlotOptions& options)
     auto& command = *program.add_subcommand("plot", "Draw a control as a picture");
     add_data_options(command, options.data);
     command.add_option("--control", options.control, "Which control draws")->capture_default_str();
-    command.add_option("--pixels", options.pixels, "Width and height of the picture")->capture_default_str();
+    add_pixels(command, options.pixels);
     command.add_option("--set", options.settings, "NAME=VALUE: set a property; \"zendara controls NAME\" lists them")
         ->allow_extra_args(false);
-    command.add_option("--limits", options.limits, "Lower and upper limit of the colour scale")->expected(2);
+    add_limits(command, options.limits);
     command.add_option("-o,--output", options.output, "The picture, .png; by default named after DATA");
+    return command;
+}
+
+CLI::App& add_gallery(CLI::App& program, GalleryOptions& options)
+{
+    auto& command = *program.add_subcommand("gallery", "Draw all controls, with a page that shows them");
+    add_data_options(command, options.data);
+    add_pixels(command, options.pixels);
+    add_limits(command, options.limits);
+    command.add_option("-o,--output", options.folder, "The folder for the pictures and index.html")->required();
     return command;
 }
 
@@ -91,6 +112,7 @@ Exit run_program(int count, char** words)
     add_version(program);
 
     PlotOptions plot_options;
+    GalleryOptions gallery_options;
     StatsOptions stats_options;
     RunOptions run_options;
     ControlsOptions controls_options;
@@ -100,6 +122,7 @@ Exit run_program(int count, char** words)
         command.callback([&exit, action = std::move(action)] { exit = guarded(action); });
     };
     answer(add_plot(program, plot_options), [&] { return plot(plot_options); });
+    answer(add_gallery(program, gallery_options), [&] { return gallery(gallery_options); });
     answer(add_stats(program, stats_options), [&] { return stats(stats_options); });
     answer(add_run(program, run_options), [&] { return run(run_options); });
     answer(add_controls(program, controls_options), [&] { return controls(controls_options); });

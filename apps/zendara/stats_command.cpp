@@ -1,33 +1,18 @@
 #include "commands.hpp"
 #include "json.hpp"
 #include "loaded_control.hpp"
+#include "statistics.hpp"
 #include "support/number_text.hpp"
 
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <string_view>
 
 namespace zendara::program
 {
 
 namespace
 {
-
-/// One figure: the member of the control that tells it, and how a person reads it.
-struct Figure {
-    std::string_view member, label, unit;
-};
-constexpr std::array<Figure, 7> figures = {{
-    {"mean", "mean", ""},
-    {"StdDev", "standard deviation", ""},
-    {"Minimum", "minimum", ""},
-    {"Maximum", "maximum", ""},
-    {"range", "range", ""},
-    {"HiLo", "Hi/Lo", " %"},
-    {"StdDevPercent", "standard deviation", " %"},
-}};
 
 /// The shortest text that reads back as the same number; 17 digits are always enough.
 std::string exact(double value)
@@ -39,26 +24,6 @@ std::string exact(double value)
             break;
     }
     return text;
-}
-
-struct Statistics {
-    std::string file;
-    std::size_t sites = 0;
-    std::array<double, figures.size()> values = {};
-    bool has_zero = false;
-    bool has_negative = false;
-};
-
-Statistics statistics_of(LoadedControl& loaded, std::string const& file)
-{
-    Statistics statistics;
-    statistics.file = file;
-    statistics.sites = loaded.site_count();
-    for (std::size_t i = 0; i < figures.size(); ++i)
-        statistics.values[i] = to_double(get_member(loaded.control(), figures[i].member));
-    statistics.has_zero = loaded.control().record().FW_NUll;
-    statistics.has_negative = loaded.control().record().FW_Negativ;
-    return statistics;
 }
 
 char const* word(bool is_true)
@@ -74,8 +39,9 @@ std::string as_text(Statistics const& statistics)
         return label + value + '\n';
     };
     std::string text = row("sites", std::to_string(statistics.sites));
-    for (std::size_t i = 0; i < figures.size(); ++i)
-        text += row(std::string(figures[i].label), format_label(statistics.values[i]) + std::string(figures[i].unit));
+    for (std::size_t i = 0; i < statistic_figures.size(); ++i)
+        text += row(std::string(statistic_figures[i].label),
+                    format_label(statistics.values[i]) + std::string(statistic_figures[i].unit));
     text += row("zero values", statistics.has_zero ? "yes" : "no");
     text += row("negative values", statistics.has_negative ? "yes" : "no");
     return text;
@@ -84,8 +50,8 @@ std::string as_text(Statistics const& statistics)
 std::string as_json(Statistics const& statistics)
 {
     std::string text = "{\"file\": " + json_text(statistics.file) + ", \"sites\": " + std::to_string(statistics.sites);
-    for (std::size_t i = 0; i < figures.size(); ++i)
-        text += ", \"" + std::string(figures[i].member) + "\": " + exact(statistics.values[i]);
+    for (std::size_t i = 0; i < statistic_figures.size(); ++i)
+        text += ", \"" + std::string(statistic_figures[i].member) + "\": " + exact(statistics.values[i]);
     return text + ", \"zero\": " + word(statistics.has_zero) + ", \"negative\": " + word(statistics.has_negative) +
            "}\n";
 }
@@ -104,8 +70,8 @@ std::string as_csv(Statistics const& statistics)
 {
     std::string header = "file,sites";
     std::string row = csv_cell(statistics.file) + ',' + std::to_string(statistics.sites);
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        header += ',' + std::string(figures[i].member);
+    for (std::size_t i = 0; i < statistic_figures.size(); ++i) {
+        header += ',' + std::string(statistic_figures[i].member);
         row += ',' + exact(statistics.values[i]);
     }
     return header + ",zero,negative\n" + row + ',' + word(statistics.has_zero) + ',' + word(statistics.has_negative) +

@@ -89,8 +89,7 @@ std::vector<unsigned> png_size(std::string const& bytes)
 
 } // namespace
 
-// --- plot
-// ---------------------------------------------------------------------------------------------------------------
+// --- plot -----------------------------------------------------------------------------------------------------------
 
 TEST_F(Program, PlotWritesAPictureNamedAfterTheData)
 {
@@ -108,6 +107,41 @@ TEST_F(Program, ARawFileAndACsvOfTheSameSitesGiveTheSamePicture)
     ASSERT_EQ(run("plot film.dat -o b.png --pixels 400x300").exit, 0);
     EXPECT_EQ(png_size(contents_of(path("a.png"))), (std::vector<unsigned>{400, 300}));
     EXPECT_EQ(contents_of(path("a.png")), contents_of(path("b.png")));
+}
+
+TEST_F(Program, WithoutASizeThePanelHoldsAllSites)
+{
+    file("wide.csv", "x,y,z\n-400,0,1\n400,10,2\n0,-10,3\n0,5,4\n");
+    auto const outcome = run("plot wide.csv");
+    EXPECT_EQ(outcome.exit, 0) << outcome.errors;
+    EXPECT_EQ(outcome.errors,
+              "zendara: note: the panel is taken as 800 x 20 mm, which holds all sites; --size tells it\n");
+    EXPECT_EQ(run("stats wide.csv --format csv").output.substr(0, 10), "file,sites");
+}
+
+TEST_F(Program, GalleryWritesAPictureOfEachControlAndAPageThatShowsThem)
+{
+    write_sites();
+    auto const outcome = run("gallery film.csv -o shown/here --pixels 600x450");
+    ASSERT_EQ(outcome.exit, 0) << outcome.errors;
+    auto const page = contents_of(path("shown/here/index.html"));
+    auto const names = run("controls").output;
+    std::size_t controls = 0;
+    for (std::size_t at = 0; at < names.size(); at = names.find('\n', at) + 1, ++controls) {
+        auto const name = names.substr(at, names.find_first_of(" \n", at) - at);
+        EXPECT_EQ(png_size(contents_of(path("shown/here/" + name + ".png"))), (std::vector<unsigned>{600, 450}));
+        EXPECT_NE(page.find("<img src=\"" + name + ".png\" width=\"600\" height=\"450\" alt=\""), std::string::npos);
+    }
+    EXPECT_GE(controls, 3u);
+    EXPECT_NE(page.find("<th scope=\"row\">mean</th><td class=\"number\">8.5</td>"), std::string::npos);
+    EXPECT_NE(page.find("<th scope=\"row\">ResolutionX</th><td>5</td>"), std::string::npos);
+    EXPECT_EQ(page.find("http"), std::string::npos) << "the page asks for a network";
+}
+
+TEST_F(Program, GalleryOfBadDataMakesNoFolder)
+{
+    file("bad.csv", "x,y,z\n1,2,three\n");
+    expect_bad_input("gallery bad.csv -o shown", "bad.csv:2: expected a number in column z, found \"three\"");
 }
 
 TEST_F(Program, ASettingChangesThePicture)
@@ -144,7 +178,7 @@ TEST_F(Program, ASiteFarBeyondThePanelEndsInOneLine)
     std::vector<double> numbers(3 * 12, 1.0);
     numbers[3] = 1e9;
     raw_file("far.dat", numbers);
-    expect_bad_input("plot far.dat", "far.dat: the sites cannot be taken: a value is too large, or a site lies far "
+    expect_bad_input("plot far.dat --size 300x200", "far.dat: the sites cannot be taken: a value is too large, or a site lies far "
                                      "beyond the panel of 300 x 200 mm (--size)");
 }
 
@@ -249,8 +283,7 @@ TEST_F(Program, TheDataFileIsNeverOverwritten)
     EXPECT_EQ(contents_of(path("film.png")), before);
 }
 
-// --- stats
-// --------------------------------------------------------------------------------------------------------------
+// --- stats ----------------------------------------------------------------------------------------------------------
 
 TEST_F(Program, StatsTellTheFiguresAsJson)
 {
@@ -296,8 +329,7 @@ TEST_F(Program, StatsAsTextUseTheNumbersOfTheLabels)
     EXPECT_NE(output.find("standard deviation  1.4142\n"), std::string::npos) << output;
 }
 
-// --- run
-// ----------------------------------------------------------------------------------------------------------------
+// --- run ------------------------------------------------------------------------------------------------------------
 
 TEST_F(Program, AScriptIsReadFromStandardInput)
 {
@@ -372,8 +404,7 @@ TEST_F(Program, ThousandsOfStepsPrintThousandsOfLines)
     EXPECT_NE(outcome.output.find(R"({"step":20000,"result":"19999.0","args":[19999]})"), std::string::npos);
 }
 
-// --- controls and the rest
-// ----------------------------------------------------------------------------------------------
+// --- controls and the rest ------------------------------------------------------------------------------------------
 
 TEST_F(Program, ControlsListsOneNameALine)
 {

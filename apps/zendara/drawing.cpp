@@ -1,0 +1,61 @@
+#include "drawing.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace zendara::program
+{
+
+namespace
+{
+
+void tell_messages(HeadlessPlatform& platform)
+{
+    for (auto message : platform.take_messages()) {
+        std::replace(message.text.begin(), message.text.end(), '\n', ' ');
+        std::fprintf(stderr, "zendara: %s: %s\n", message.title.c_str(), message.text.c_str());
+    }
+}
+
+} // namespace
+
+Size parse_pixels(std::string const& text)
+{
+    constexpr double most = 16384;
+    Size const pixels = parse_size("--pixels", text);
+    if (pixels.width != std::floor(pixels.width) || pixels.height != std::floor(pixels.height) ||
+        std::max(pixels.width, pixels.height) > most)
+        throw UserError("--pixels: expected whole numbers from 1 to 16384, not \"" + text + "\"");
+    return pixels;
+}
+
+void set_limits(Control& control, std::vector<double> const& limits)
+{
+    if (limits.empty())
+        return;
+    bool const is_range = std::isfinite(limits[0]) && std::isfinite(limits[1]) && limits[0] < limits[1];
+    if (!is_range)
+        throw UserError("--limits: the lower limit has to lie below the upper one");
+    std::vector<Value> arguments = {limits[0], limits[1]};
+    call_member(control, "SetPlotLimit", arguments);
+}
+
+void draw(LoadedControl& loaded, std::string const& data_file)
+{
+    std::vector<Value> none;
+    Value const result = call_member(loaded.control(), "Plot", none);
+    tell_messages(loaded.platform());
+    if (to_double(result) != 0)
+        throw UserError(data_file + ": there is nothing to plot", Exit::NothingToPlot);
+}
+
+void tell_fitted_panel(LoadedControl const& loaded)
+{
+    if (loaded.is_panel_fitted())
+        std::fprintf(stderr,
+                     "zendara: note: the panel is taken as %g x %g mm, which holds all sites; --size tells it\n",
+                     loaded.panel_mm().width, loaded.panel_mm().height);
+}
+
+} // namespace zendara::program

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "loaded_control.hpp"
+
+#include <string>
+#include <vector>
+
+namespace zendara::program
+{
+
+/// Reads the size of a picture.
+/// @throws UserError  for anything but whole numbers from 1 to 16384
+Size parse_pixels(std::string const& text);
+
+/// Takes other limits for the colour scale; an empty list leaves those of the data.
+/// @throws UserError  when the first does not lie below the second
+void set_limits(Control& control, std::vector<double> const& limits);
+
+/// Runs Plot; what the control has to say goes to standard error.
+/// @param data_file  named in the message
+/// @throws UserError  when there is nothing to plot
+void draw(LoadedControl& loaded, std::string const& data_file);
+
+/// Tells on standard error that the program has chosen the panel's size, where it has.
+void tell_fitted_panel(LoadedControl const& loaded);
+
+} // namespace zendara::program
