@@ -15,8 +15,9 @@ TEXT
 # "a|b" means that either will do; the first one that the system offers is taken.
 packages=(g++ cmake ninja-build "pkg-config|pkgconf"
           libgtest-dev libgmock-dev libbenchmark-dev
-          nlohmann-json3-dev libcli11-dev libfreetype-dev libpng-dev libdeflate-dev
-          fonts-liberation fonts-urw-base35)
+          nlohmann-json3-dev libcli11-dev libfreetype-dev libpng-dev libdeflate-dev libcairo2-dev
+          fonts-liberation fonts-urw-base35
+          poppler-utils) # the tests read and show pages with it
 clang_packages=(clang clang-tidy clang-format "libclang-rt-14-dev|libclang-rt-dev")
 libcxx_packages=(clang "libc++-13-dev|libc++-dev" "libc++abi-13-dev|libc++abi-dev")
 

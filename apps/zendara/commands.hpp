@@ -44,6 +44,18 @@ struct GalleryOptions {
     std::string folder;
 };
 
+struct ReportOptions {
+    DataOptions data;
+    std::string page = "A4";
+    bool is_landscape = false;
+    std::vector<std::string> controls; // empty: all
+    std::vector<std::string> settings; // NAME=VALUE, for each control that has the property
+    std::vector<double> limits;        // none, or the lower and the upper
+    std::string units;                 // of the values, for the statistics
+    std::string date;                  // as it is to stand on the pages
+    std::string output;
+};
+
 struct StatsOptions {
     DataOptions data;
     std::string format = "text";
@@ -63,6 +75,7 @@ struct ControlsOptions {
 
 Exit plot(PlotOptions const& options);
 Exit gallery(GalleryOptions const& options);
+Exit report(ReportOptions const& options);
 Exit stats(StatsOptions const& options);
 Exit run(RunOptions const& options);
 Exit controls(ControlsOptions const& options);

@@ -7,9 +7,6 @@
 namespace zendara::program
 {
 
-namespace
-{
-
 void tell_messages(HeadlessPlatform& platform)
 {
     for (auto message : platform.take_messages()) {
@@ -17,8 +14,6 @@ void tell_messages(HeadlessPlatform& platform)
         std::fprintf(stderr, "zendara: %s: %s\n", message.title.c_str(), message.text.c_str());
     }
 }
-
-} // namespace
 
 Size parse_pixels(std::string const& text)
 {

@@ -16,6 +16,9 @@ Size parse_pixels(std::string const& text);
 /// @throws UserError  when the first does not lie below the second
 void set_limits(Control& control, std::vector<double> const& limits);
 
+/// Hands what the control had to say to standard error.
+void tell_messages(HeadlessPlatform& platform);
+
 /// Runs Plot; what the control has to say goes to standard error.
 /// @param data_file  named in the message
 /// @throws UserError  when there is nothing to plot

@@ -34,16 +34,21 @@ void add_pixels(CLI::App& command, std::string& pixels)
     command.add_option("--pixels", pixels, "Width and height of the picture")->capture_default_str();
 }
 
+void add_settings(CLI::App& command, std::vector<std::string>& settings)
+{
+    command.add_option("--set", settings, "NAME=VALUE: set a property; \"zendara controls NAME\" lists them")
+        ->allow_extra_args(false);
+}
+
 CLI::App& add_plot(CLI::App& program, PlotOptions& options)
 {
     auto& command = *program.add_subcommand("plot", "Draw a control as a picture");
     add_data_options(command, options.data);
     command.add_option("--control", options.control, "Which control draws")->capture_default_str();
     add_pixels(command, options.pixels);
-    command.add_option("--set", options.settings, "NAME=VALUE: set a property; \"zendara controls NAME\" lists them")
-        ->allow_extra_args(false);
+    add_settings(command, options.settings);
     add_limits(command, options.limits);
-    command.add_option("-o,--output", options.output, "The picture, .png; by default named after DATA");
+    command.add_option("-o,--output", options.output, "The picture, .png, .pdf or .svg; by default named after DATA");
     return command;
 }
 
@@ -54,6 +59,23 @@ CLI::App& add_gallery(CLI::App& program, GalleryOptions& options)
     add_pixels(command, options.pixels);
     add_limits(command, options.limits);
     command.add_option("-o,--output", options.folder, "The folder for the pictures and index.html")->required();
+    return command;
+}
+
+CLI::App& add_report(CLI::App& program, ReportOptions& options)
+{
+    auto& command = *program.add_subcommand("report", "Print all controls, with legends and statistics, as PDF");
+    add_data_options(command, options.data);
+    command.add_option("-o,--output", options.output, "The report, .pdf")->required();
+    command.add_option("--page", options.page, "A4 or Letter")->capture_default_str();
+    command.add_flag("--landscape", options.is_landscape, "Pages lie on their long side");
+    command.add_option("--controls", options.controls, "Which controls are printed, with commas between")
+        ->delimiter(',')
+        ->allow_extra_args(false);
+    add_settings(command, options.settings);
+    add_limits(command, options.limits);
+    command.add_option("--units", options.units, "Unit of the values, printed with the statistics");
+    command.add_option("--date", options.date, "Printed on each page as it is");
     return command;
 }
 
@@ -113,6 +135,7 @@ Exit run_program(int count, char** words)
 
     PlotOptions plot_options;
     GalleryOptions gallery_options;
+    ReportOptions report_options;
     StatsOptions stats_options;
     RunOptions run_options;
     ControlsOptions controls_options;
@@ -123,6 +146,7 @@ Exit run_program(int count, char** words)
     };
     answer(add_plot(program, plot_options), [&] { return plot(plot_options); });
     answer(add_gallery(program, gallery_options), [&] { return gallery(gallery_options); });
+    answer(add_report(program, report_options), [&] { return report(report_options); });
     answer(add_stats(program, stats_options), [&] { return stats(stats_options); });
     answer(add_run(program, run_options), [&] { return run(run_options); });
     answer(add_controls(program, controls_options), [&] { return controls(controls_options); });

@@ -1,8 +1,10 @@
 #include "commands.hpp"
 #include "drawing.hpp"
 #include "loaded_control.hpp"
+#include "output_file.hpp"
 #include "platform/headless/png_file.hpp"
 #include "platform/headless/window_painter.hpp"
+#include "printing.hpp"
 #include "setting.hpp"
 
 #include <filesystem>
@@ -23,16 +25,38 @@ fs::path output_path(PlotOptions const& options)
     return options.output;
 }
 
-void check_output(fs::path const& output, std::string const& data_file)
+void write_picture(LoadedControl& loaded, fs::path const& output, std::string const& data_file)
 {
-    auto const ending = output.extension();
-    if (ending == ".svg" || ending == ".pdf")
-        throw UserError("-o " + output.string() + ": " + ending.string() + " files cannot be written yet, only .png");
-    if (ending != ".png")
-        throw UserError("-o " + output.string() + ": expected a name that ends in .png");
-    std::error_code ignored;
-    if (fs::equivalent(output, data_file, ignored))
-        throw UserError("-o " + output.string() + ": is the data file itself");
+    draw(loaded, data_file);
+    write_png(paint_child(loaded.control().window(), loaded.platform().glyphs()), output);
+}
+
+/// The plot with its legend to its right, if the page has room for it.
+void print_page(PrintedControl& printed, PaperSurface& page)
+{
+    constexpr double margin = 40; // keeps the lines of frames whole
+    constexpr double gap = 250;
+    double const line = page.TextHeight("0"); // frames lie this much lower than their boxes
+    PageBox box = {margin, 0, page.paper().width - 2 * margin, page.paper().height - line - margin};
+
+    bool const has_room =
+        box.width >= 2 * legend_width_twips + gap && page.paper().height >= legend_height_twips + line + margin;
+    if (printed.shows_legend() && has_room) {
+        box.width -= legend_width_twips + gap;
+        printed.print_legend(box.right() + gap, box.top);
+    }
+    printed.print_plot(box);
+}
+
+/// A page as large as the picture would be.
+void write_page(LoadedControl& loaded, Size const& pixels, fs::path const& output, std::string const& data_file)
+{
+    auto const& platform = loaded.platform();
+    PaperSurface page(output,
+                      {pixels.width * platform.twips_per_pixel_x(), pixels.height * platform.twips_per_pixel_y()});
+    PrintedControl printed(loaded, page, data_file);
+    print_page(printed, page);
+    page.EndDoc();
 }
 
 } // namespace
@@ -40,16 +64,19 @@ void check_output(fs::path const& output, std::string const& data_file)
 Exit plot(PlotOptions const& options)
 {
     auto const output = output_path(options);
-    check_output(output, options.data.file);
-    LoadedControl loaded(options.control, parse_pixels(options.pixels), options.data);
+    check_output(output, {".png", ".pdf", ".svg"}, options.data.file);
+    Size const pixels = parse_pixels(options.pixels);
+    LoadedControl loaded(options.control, pixels, options.data);
     tell_fitted_panel(loaded);
     auto& control = loaded.control();
     for (auto const& setting : options.settings)
         apply_setting(control, setting);
     set_limits(control, options.limits);
 
-    draw(loaded, options.data.file);
-    write_png(paint_child(control.window(), loaded.platform().glyphs()), output);
+    if (output.extension() == ".png")
+        write_picture(loaded, output, options.data.file);
+    else
+        write_page(loaded, pixels, output, options.data.file);
     return Exit::Done;
 }
 

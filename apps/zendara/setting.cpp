@@ -131,4 +131,10 @@ void apply_setting(Object& control, std::string const& setting)
     }
 }
 
+bool has_setting(Interface const& known, std::string const& setting)
+{
+    auto const* const member = known.find(split(setting).name);
+    return member != nullptr && member->put != nullptr;
+}
+
 } // namespace zendara::program

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/interface.hpp"
 #include "support/object.hpp"
 
 #include <string>
@@ -11,5 +12,8 @@ namespace zendara::program
 /// value a number, true or false, the name of an enumeration's item, a colour as #RRGGBB, or a text.
 /// @throws UserError  with a line that names the setting
 void apply_setting(Object& control, std::string const& setting);
+
+/// Whether a class has the property that a setting names.
+bool has_setting(Interface const& known, std::string const& setting);
 
 } // namespace zendara::program

@@ -1,8 +1,14 @@
 #include "controls/control.hpp"
 #include "controls/stored_properties.hpp"
+#include "controls/zv_histogram.hpp"
+#include "controls/zv_line_scan.hpp"
 #include "controls/zv_plot_2d.hpp"
+#include "controls/zv_plot_2dc.hpp"
 #include "controls/zv_plot_2ds.hpp"
 #include "controls/zv_plot_2dv.hpp"
+#include "controls/zv_plot_3d.hpp"
+#include "controls/zv_plot_3db.hpp"
+#include "controls/zv_plot_3ds.hpp"
 
 #include <algorithm>
 #include <array>
@@ -22,6 +28,12 @@ constexpr std::array classes = {
     ControlClass{"ZvPlot2D", &make<ZvPlot2D>, &ZvPlot2D::interface_table, &stored_properties_of_2d},
     ControlClass{"ZvPlot2DV", &make<ZvPlot2DV>, &ZvPlot2DV::interface_table, &stored_properties_of_2dv},
     ControlClass{"ZvPlot2DS", &make<ZvPlot2DS>, &ZvPlot2DS::interface_table, &stored_properties_of_2ds},
+    ControlClass{"ZvPlot2DC", &make<ZvPlot2DC>, &ZvPlot2DC::interface_table, &stored_properties_of_2dc},
+    ControlClass{"ZvPlot3D", &make<ZvPlot3D>, &ZvPlot3D::interface_table, &stored_properties_of_3d},
+    ControlClass{"ZvPlot3DS", &make<ZvPlot3DS>, &ZvPlot3DS::interface_table, &stored_properties_of_3ds},
+    ControlClass{"ZvPlot3DB", &make<ZvPlot3DB>, &ZvPlot3DB::interface_table, &stored_properties_of_3db},
+    ControlClass{"ZvHistogram", &make<ZvHistogram>, &ZvHistogram::interface_table, &stored_properties_of_histogram},
+    ControlClass{"ZvLineScan", &make<ZvLineScan>, &ZvLineScan::interface_table, &stored_properties_of_line_scan},
 };
 
 } // namespace

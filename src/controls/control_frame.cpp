@@ -6,7 +6,8 @@ namespace zendara
 {
 
 ControlFrame::ControlFrame(Control& control, Platform& platform, std::string name)
-    : window(platform, std::move(name)), printer(platform.default_printer()), control_(control)
+    : window(platform, std::move(name)), printer(platform.default_printer()), control_(control),
+      default_printer_scope_(platform.default_printer())
 {
     platform.set_help_file(help_file_name(platform.application_path()));
     record.show_message = [&platform](std::string_view text, int style, std::string_view title) {
@@ -32,14 +33,30 @@ void ControlFrame::forget_plot()
     image_valid = false;
 }
 
+void ControlFrame::raise(std::string_view event, std::span<Value> arguments)
+{
+    if (control_.on_event)
+        control_.on_event(event, arguments);
+}
+
 void ControlFrame::forward(std::initializer_list<Child*> children, std::span<std::string_view const> events)
 {
     for (Child* const child : children)
         for (std::string_view const event : events)
-            child->on(event, [this, event](std::span<Value> arguments) {
-                if (control_.on_event)
-                    control_.on_event(event, arguments);
-            });
+            child->on(event, [this, event](std::span<Value> arguments) { raise(event, arguments); });
+}
+
+bool ControlFrame::confirms(OptionDialog& dialog)
+{
+    dialog.show_modal(window);
+    return dialog.Redraw();
+}
+
+void ControlFrame::show_about(AboutKind kind)
+{
+    frmAbout box(platform());
+    box.SetTitle(static_cast<std::int16_t>(kind));
+    box.show_modal(window);
 }
 
 double ControlFrame::hi_lo() const

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "controls/control.hpp"
+#include "dialogs/frm_about.hpp"
+#include "dialogs/option_dialog.hpp"
+#include "render/histogram_shared.hpp"
 
 #include <array>
 #include <initializer_list>
@@ -36,14 +39,22 @@ public:
     /// New data or sizes: no plot of them exists yet.
     void forget_plot();
 
+    /// Raises an event to the host.
+    void raise(std::string_view event, std::span<Value> arguments);
     /// Hands events of children on to the host, with their arguments as they are.
     void forward(std::initializer_list<Child*> children, std::span<std::string_view const> events);
+
+    /// Shows an option dialog modally in front of the control.
+    /// @return  whether the settings in it are to be stored
+    bool confirms(OptionDialog& dialog);
+    void show_about(AboutKind kind);
 
     double hi_lo() const;
     double std_dev_percent() const;
 
 private:
     Control& control_;
+    DefaultPrinterScope default_printer_scope_;
 };
 
 /// Forms of the pointer.

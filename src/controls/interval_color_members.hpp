@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/shared_members.hpp"
+#include "print/print_panel.hpp"
 #include "support/checked.hpp"
 
 namespace zendara
@@ -31,6 +32,12 @@ public:
     void IntervalColor7(Color color) { set(&panel::col8, color, "IntervalColor7"); }
     void IntervalColor8(Color color) { set(&panel::col9, color, "IntervalColor8"); }
     void IntervalColor9(Color color) { set(&panel::col10, color, "IntervalColor9"); }
+
+protected:
+    void print_legend(PrintPanel& paper, double left, double top, BooleanWord with_frame)
+    {
+        paper.DrawColoredLegend(frame().record, left, top, with_frame);
+    }
 
 private:
     ControlFrame& frame() { return static_cast<Self&>(*this).frame_; }

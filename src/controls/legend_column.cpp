@@ -56,6 +56,8 @@ void LegendColumn::lay_out(double window_width)
     double legend_width = narrowest_legend;
     for (int i = 1; i <= rows; ++i)
         legend_width = std::max(legend_width, ScaleValue(i).Left() + ScaleValue(i).Width());
+    for (Label const* const text : further_texts)
+        legend_width = std::max(legend_width, text->Left() + text->Width());
     legende.Width(legend_width);
     frleg.Width(legende.Width() + legend_border);
     Frame1.Width(frleg.Width() + column_border);
@@ -71,6 +73,8 @@ void LegendColumn::BackColor(Color color)
         child->BackColor(color);
     for (int i = 1; i <= rows; ++i)
         ScaleValue(i).BackColor(color);
+    for (Label* const text : further_texts)
+        text->BackColor(color);
 }
 
 } // namespace zendara

@@ -2,6 +2,8 @@
 
 #include "form/children.hpp"
 
+#include <vector>
+
 namespace zendara
 {
 
@@ -20,6 +22,9 @@ public:
     Frame FNLabel;
     PictureBox FNPic;
     Button Command1;
+
+    /// Texts of a control's own in the legend: it has to be wide enough for them, and they share its back colour.
+    std::vector<Label*> further_texts;
 
     /// Makes the column as wide as its widest legend text asks for and sets it at the window's right edge.
     void lay_out(double window_width);

@@ -55,9 +55,14 @@ void PlotFrame::forward_events()
     frame_.forward(sources, mouse_events);
 }
 
-void PlotFrame::show_position(double rotation_deg, double inclination_deg)
+void PlotFrame::draw_position(double rotation_deg, double inclination_deg)
 {
     frame_.record.GridPosShow(&column.FNLabel, column.FNPic.surface(), rotation_deg, inclination_deg);
+}
+
+void PlotFrame::show_position(double rotation_deg, double inclination_deg)
+{
+    draw_position(rotation_deg, inclination_deg);
     frame_.window.Refresh();
 }
 

@@ -28,7 +28,9 @@ public:
     /// Hands clicks and mouse events of the control, the column, the plot's frame and the plot on to the host.
     void forward_events();
 
-    /// Shows where the panel lies, turned and tilted as the plot is, and brings the control up to date.
+    /// Draws where the panel lies, turned and tilted as the plot is.
+    void draw_position(double rotation_deg, double inclination_deg);
+    /// The same, and brings the control up to date.
     void show_position(double rotation_deg, double inclination_deg);
 
     /// Lays everything out in the window's present size and draws where the picture does not hold. All lengths in
@@ -38,6 +40,9 @@ public:
     /// Draws under the hourglass and without the options button: yields once to the message loop, runs the drawing
     /// routine, and takes its picture as the valid one. Without data nothing is drawn.
     void draw(std::function<void()> const& routine);
+
+    /// Draws at once, whatever the picture shows.
+    void draw_now() { hooks_.draw(); }
 
     /// Empties the surface; no plot exists then.
     void clear_display();

@@ -62,6 +62,23 @@ protected:
         plot_frame().view.Frplot.caption("Panel");
     }
 
+    /// Shows an option dialog; after its OK the settings are stored and the plot is drawn at once.
+    template <class Store> void answer_options(OptionDialog& dialog, Store store)
+    {
+        if (!frame().confirms(dialog))
+            return;
+        store();
+        plot_frame().draw_now();
+    }
+
+    /// The colour that an option dialog starts with, and what its choice does: another one goes around the plot.
+    Color plot_color() const { return plot_frame().view.PLOTA.BackColor(); }
+    void take_color(Color color)
+    {
+        if (color != plot_color())
+            self().BackColor(color);
+    }
+
     void clear_display() { plot_frame().clear_display(); }
     void drop_stored_picture() { plot_frame().drop_stored_picture(); }
 

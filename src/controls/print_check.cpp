@@ -26,11 +26,6 @@ PrintCheck check_plot_print(ControlFrame const& frame)
     return PrintCheck::Ready;
 }
 
-void no_page_layout(char const* member)
-{
-    throw Failure(FailureKind::InvalidProcedureCall, std::string(member) + ": this version cannot print yet");
-}
-
 std::vector<Argument> print_box()
 {
     return {by_value("left"), by_value("top"), by_value("width"), by_value("height")};

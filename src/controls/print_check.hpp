@@ -14,8 +14,4 @@ PrintCheck check_plot_print(ControlFrame const& frame);
 /// The test ahead of a printed legend or data block: whether there are data and a printer.
 bool has_print_input(ControlFrame const& frame);
 
-/// Ends a print member that has passed its test.
-/// @throws Failure  InvalidProcedureCall: this version has no page layout yet
-[[noreturn]] void no_page_layout(char const* member);
-
 } // namespace zendara

@@ -2,56 +2,83 @@
 
 #include "controls/print_check.hpp"
 #include "controls/shared_members.hpp"
+#include "print/print_panel.hpp"
 
 namespace zendara
 {
 
-/// The print members of the controls with a plot beside a legend. Rectangles and places are in twips on the page of
-/// PrinterObj, which the host owns. It holds no state.
+/// The print members that the controls share. Rectangles and places are in twips on the page of PrinterObj, which the
+/// host owns. It holds no state: `Self` prints its plot in `print_plot`, and its legend, where it has one, in
+/// `print_legend`.
 template <class Self> class PrintMembers
 {
 public:
     /// Prints the plot.
+    /// @param DrawFrame  with a frame and the caption
     /// @return  0 done, 1 the control is smaller than 750 twips in a direction, 2 no data or no printer
-    std::int16_t PrintPlot(double, double, double, double, BooleanWord&) { return refuse_or_fail("PrintPlot"); }
+    std::int16_t PrintPlot(double left, double top, double width, double height, BooleanWord& DrawFrame)
+    {
+        return print_checked([&](PrintPanel& paper) {
+            self().print_plot(paper, PaperBox{left, top, width, height}, DrawFrame);
+        });
+    }
 
     /// Prints the legend.
     /// @return  0 done, 1 no data or no printer
-    std::int16_t PrintLegend(double, double, BooleanWord&) { return refuse_block_or_fail("PrintLegend"); }
+    std::int16_t PrintLegend(double left, double top, BooleanWord& DrawFrame)
+    {
+        return print_beside([&](PrintPanel& paper) { self().print_legend(paper, left, top, DrawFrame); });
+    }
 
     /// Prints the statistics, in a measuring unit that the panel keeps.
     /// @return  0 done, 1 no data or no printer
-    std::int16_t PrintPanelStatistic(double, double, std::string const& units)
+    std::int16_t PrintPanelStatistic(double left, double top, std::string const& units)
     {
-        if (has_print_input(frame()))
+        return print_beside([&](PrintPanel& paper) {
             frame().record.Meas_unit = units;
-        return refuse_block_or_fail("PrintPanelStatistic");
+            paper.DrawPanelStatistics(frame().record, left, top);
+        });
     }
 
     /// Prints the panel's sizes.
     /// @return  0 done, 1 no data or no printer
-    std::int16_t PrintPanelSize(double, double) { return refuse_block_or_fail("PrintPanelSize"); }
+    std::int16_t PrintPanelSize(double left, double top)
+    {
+        return print_beside([&](PrintPanel& paper) { paper.DrawPanelSize(frame().record, left, top); });
+    }
 
 protected:
-    /// The result of a printed plot that is refused.
-    /// @throws Failure  InvalidProcedureCall where it is not: this version has no page layout yet
-    std::int16_t refuse_or_fail(char const* member)
+    /// Prints a plot where nothing speaks against it.
+    /// @return  why it was not printed, or 0
+    template <class Routine> std::int16_t print_checked(Routine&& routine)
     {
-        auto const check = check_plot_print(frame());
+        PrintCheck const check = self().check_print();
         if (check == PrintCheck::Ready)
-            no_page_layout(member);
+            print(routine);
         return static_cast<std::int16_t>(check);
     }
 
-    std::int16_t refuse_block_or_fail(char const* member)
-    {
-        if (has_print_input(frame()))
-            no_page_layout(member);
-        return 1;
-    }
+    PrintCheck check_print() const { return check_plot_print(frame()); }
 
 private:
+    Self& self() { return static_cast<Self&>(*this); }
     ControlFrame& frame() { return static_cast<Self&>(*this).frame_; }
+    ControlFrame const& frame() const { return static_cast<Self const&>(*this).frame_; }
+
+    template <class Routine> std::int16_t print_beside(Routine&& routine)
+    {
+        if (!has_print_input(frame()))
+            return 1;
+        print(routine);
+        return 0;
+    }
+
+    template <class Routine> void print(Routine&& routine)
+    {
+        PrintPanel paper;
+        paper.PrinterObj = frame().printer;
+        routine(paper);
+    }
 };
 
 /// The arguments of a rectangle on paper, by value.
@@ -64,17 +91,24 @@ template <class C> Member print_plot_row()
     return method<C, &PrintMembers<C>::PrintPlot>("PrintPlot", with_draw_frame(print_box()), "Prints the plot.");
 }
 
-template <class C> std::vector<Member> print_block_rows()
+template <class C> std::vector<Member> print_data_rows()
 {
     using P = PrintMembers<C>;
     std::vector<Argument> const place = {by_reference("left"), by_reference("top")};
     return {
-        method<C, &P::PrintLegend>("PrintLegend", with_draw_frame(place), "Prints the legend."),
         method<C, &P::PrintPanelStatistic>("PrintPanelStatistic",
                                            {by_reference("left"), by_reference("top"), by_reference("units")},
                                            "Prints the statistics."),
         method<C, &P::PrintPanelSize>("PrintPanelSize", place, "Prints the panel's sizes."),
     };
+}
+
+template <class C> std::vector<Member> print_block_rows()
+{
+    std::vector<Argument> const place = {by_reference("left"), by_reference("top")};
+    std::vector<Member> rows = {
+        method<C, &PrintMembers<C>::PrintLegend>("PrintLegend", with_draw_frame(place), "Prints the legend.")};
+    return join({std::move(rows), print_data_rows<C>()});
 }
 
 } // namespace zendara

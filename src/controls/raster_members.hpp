@@ -63,6 +63,15 @@ public:
         frame().settings_changed("ShowSites");
     }
 
+protected:
+    /// Stores what an option dialog of a map has.
+    template <class Dialog> void take_raster(Dialog& dialog)
+    {
+        ResolutionX(dialog.GetXRes());
+        ResolutionY(dialog.GetYRes());
+        ShowSites(dialog.GetMarkeSites() ? Sites::MarkSites : Sites::HideSites);
+    }
+
 private:
     Raster& raster() { return static_cast<Self&>(*this).raster_; }
     Raster const& raster() const { return static_cast<Self const&>(*this).raster_; }

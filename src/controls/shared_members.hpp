@@ -7,7 +7,7 @@ namespace zendara
 {
 
 /// The public members that all nine controls have in common, written once. It holds no state: `Self` owns a
-/// ControlFrame as `frame_` and answers `clear_display`, `drop_stored_picture` and `Plot`.
+/// ControlFrame as `frame_`, names its `about_kind`, and answers `clear_display`, `drop_stored_picture` and `Plot`.
 template <class Self> class SharedMembers : public Control
 {
 public:
@@ -39,7 +39,7 @@ public:
     }
 
     /// Shows the about box.
-    void About() {}
+    void About() { frame().show_about(Self::about_kind); }
 
     /// Statistics of the data, whatever the plot limits are.
     double mean() const { return frame().record.mean; }
@@ -165,6 +165,19 @@ protected:
             PanelSizeY(start_height);
     }
 
+    /// As default_sizes, without a word to anybody and with the plot that is being made.
+    void fill_empty_sizes()
+    {
+        if (frame().record.SizeX == 0) {
+            frame().record.SizeX = start_width;
+            set_test_width(start_width);
+        }
+        if (frame().record.SizeY == 0) {
+            frame().record.SizeY = start_height;
+            set_test_height(start_height);
+        }
+    }
+
     /// Crossed: an empty width defaults the height, and the other way round. Hosts of these controls rely on it.
     void default_sizes_crossed()
     {
@@ -284,10 +297,9 @@ template <class C> std::vector<Member> size_rows()
 
 template <class C> std::vector<Member> limit_rows()
 {
-    using S = SharedMembers<C>;
     return {
-        method<C, &S::ReleasePlotLimit>("ReleasePlotLimit", {}, "Goes back to the limits of the data."),
-        method<C, &S::SetPlotLimit>("SetPlotLimit", {by_reference("LPL"), by_reference("UPL")},
+        method<C, &C::ReleasePlotLimit>("ReleasePlotLimit", {}, "Goes back to the limits of the data."),
+        method<C, &C::SetPlotLimit>("SetPlotLimit", {by_reference("LPL"), by_reference("UPL")},
                                     "Takes other limits for the colour scale."),
     };
 }

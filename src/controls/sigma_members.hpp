@@ -2,6 +2,7 @@
 
 #include "controls/legend_column.hpp"
 #include "controls/shared_members.hpp"
+#include "print/print_panel.hpp"
 #include "support/checked.hpp"
 
 namespace zendara
@@ -50,6 +51,13 @@ public:
     void IntervalColor0(Color color) { set(&panel::ColS1, color, "IntervalColor0"); }
     void IntervalColor1(Color color) { set(&panel::ColS2, color, "IntervalColor1"); }
     void IntervalColor2(Color color) { set(&panel::ColS3, color, "IntervalColor2"); }
+
+protected:
+    void print_legend(PrintPanel& paper, double left, double top, BooleanWord with_frame)
+    {
+        auto& self = static_cast<Self&>(*this);
+        paper.DrawSigmaLegend(self.frame_.record, left, top, self.sigma_.range, with_frame);
+    }
 
 private:
     Color get(double panel::*band) const { return to_i32(static_cast<Self const&>(*this).frame_.record.*band); }

@@ -2,6 +2,7 @@
 
 #include "controls/resolution_limit.hpp"
 #include "controls/stored_properties.hpp"
+#include "dialogs/frm_plot_opt_2d.hpp"
 
 namespace zendara
 {
@@ -41,11 +42,26 @@ void ZvPlot2D::draw_map()
                          raster_.shows_sites.word, 0, 0, 0, 0, 0);
 }
 
-void ZvPlot2D::ShowPlotOption() {}
-
-std::int16_t ZvPlot2D::PrintGridPlot(double, double, double, double)
+void ZvPlot2D::ShowPlotOption()
 {
-    return refuse_or_fail("PrintGridPlot");
+    frmPlotOpt2d dialog(frame_.platform());
+    dialog.SetValues(frame_.record, raster_.resolution_x, raster_.resolution_y, raster_.shows_sites, plot_color());
+    answer_options(dialog, [&] {
+        take_raster(dialog);
+        take_color(dialog.GetBackColor());
+    });
+}
+
+void ZvPlot2D::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+{
+    paper.Print_2DPlot(frame_.record, box.left, box.top, box.width, box.height, raster_.resolution_x,
+                       raster_.resolution_y, PlotCaption(), raster_.shows_sites.word, with_frame);
+}
+
+std::int16_t ZvPlot2D::PrintGridPlot(double left, double top, double width, double height)
+{
+    return print_checked(
+        [&](PrintPanel& paper) { paper.Print_GridPosPlot(frame_.record, left, top, width, height, PlotCaption()); });
 }
 
 std::vector<StoredProperty> const& ZvPlot2D::stored_properties() const

@@ -38,9 +38,12 @@ private:
     template <class> friend class IntervalColorMembers;
     template <class> friend class PrintMembers;
 
+    static constexpr AboutKind about_kind = AboutKind::Map;
+
     void prepare_plot();
     void fill_legend();
     void draw_map();
+    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
 
     ControlFrame frame_;
     Raster raster_;

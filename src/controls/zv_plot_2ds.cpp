@@ -2,6 +2,7 @@
 
 #include "controls/resolution_limit.hpp"
 #include "controls/stored_properties.hpp"
+#include "dialogs/frm_plot_opt_2d.hpp"
 
 namespace zendara
 {
@@ -39,7 +40,23 @@ void ZvPlot2DS::draw_map()
                          sigma_.range, raster_.shows_sites.word, 0, 0, 0, 0, 0);
 }
 
-void ZvPlot2DS::ShowPlotOption() {}
+void ZvPlot2DS::ShowPlotOption()
+{
+    frmPlotOpt2ds dialog(frame_.platform());
+    dialog.SetValues(frame_.record, raster_.resolution_x, raster_.resolution_y, sigma_.range, raster_.shows_sites,
+                     plot_color());
+    answer_options(dialog, [&] {
+        take_raster(dialog);
+        SigmaRange(dialog.GetSigRange());
+        take_color(dialog.GetBackColor());
+    });
+}
+
+void ZvPlot2DS::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+{
+    paper.Print_2DSigmaPlot(frame_.record, box.left, box.top, box.width, box.height, raster_.resolution_x,
+                            raster_.resolution_y, sigma_.range, PlotCaption(), raster_.shows_sites.word, with_frame);
+}
 
 std::vector<StoredProperty> const& ZvPlot2DS::stored_properties() const
 {

@@ -34,8 +34,11 @@ private:
     template <class> friend class SigmaMembers;
     template <class> friend class PrintMembers;
 
+    static constexpr AboutKind about_kind = AboutKind::SigmaMap;
+
     void prepare_plot();
     void draw_map();
+    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
 
     ControlFrame frame_;
     Raster raster_;

@@ -41,9 +41,16 @@ void ZvPlot2DV::draw_numbers()
     picture.surface().Refresh();
 }
 
-std::int16_t ZvPlot2DV::PrintGridNumber(double, double, double, double, BooleanWord&)
+void ZvPlot2DV::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
 {
-    return refuse_or_fail("PrintGridNumber");
+    paper.Print_2DVPlot(frame_.record, box.left, box.top, box.width, box.height, PlotCaption(), with_frame);
+}
+
+std::int16_t ZvPlot2DV::PrintGridNumber(double left, double top, double width, double height, BooleanWord& DrawFrame)
+{
+    return print_checked([&](PrintPanel& paper) {
+        paper.Print_2DVGridPlot(frame_.record, left, top, width, height, PlotCaption(), DrawFrame);
+    });
 }
 
 std::vector<StoredProperty> const& ZvPlot2DV::stored_properties() const

@@ -38,9 +38,12 @@ private:
     template <class> friend class IntervalColorMembers;
     template <class> friend class PrintMembers;
 
+    static constexpr AboutKind about_kind = AboutKind::Numbers;
+
     void prepare_plot() { default_sizes(); }
     void fill_legend();
     void draw_numbers();
+    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
 
     ControlFrame frame_;
     PlotFrame plot_frame_;

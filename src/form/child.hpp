@@ -19,6 +19,9 @@ class Child;
 class ChildVisitor;
 struct Member;
 
+/// The unit in which a child places what lies in it.
+enum class ScaleUnit { Twips, Pixels };
+
 /// What answers an event of a child; the arguments are by reference.
 using EventHandler = std::function<void(std::span<Value>)>;
 
@@ -48,12 +51,25 @@ public:
     std::vector<Child*> const& children() const { return children_; }
     Platform& platform() const { return *platform_; }
 
+    ScaleUnit inner_unit() const { return inner_unit_; }
+    void inner_unit(ScaleUnit unit) { inner_unit_ = unit; }
+    /// The unit of the child's own place and size: that in which its container places it.
+    ScaleUnit unit() const { return container_ == nullptr ? ScaleUnit::Twips : container_->inner_unit_; }
+    /// Twips in that unit, across and down.
+    double twips_per_unit_x() const { return unit() == ScaleUnit::Twips ? 1 : platform_->twips_per_pixel_x(); }
+    double twips_per_unit_y() const { return unit() == ScaleUnit::Twips ? 1 : platform_->twips_per_pixel_y(); }
+
     Color ForeColor() const { return fore_color_; }
     void ForeColor(Color color);
     FontFace const& Font() const { return font_; }
     virtual void Font(FontFace font);
     bool Enabled() const { return is_enabled_; }
     void Enabled(bool is_enabled);
+
+    /// The letter of the caption, shown underlined, that together with Alt leads to the child; 0 for none.
+    char access_key = 0;
+    /// Where the letter leads in place of the child itself: from a label to its field. nullptr for the child.
+    Child* access_key_target = nullptr;
 
     /// Makes an array of children known under its name, so that a host can address it as a whole.
     void add_array(std::string name, Object& array) { arrays_.emplace_back(std::move(name), &array); }
@@ -91,6 +107,7 @@ private:
     Child* container_ = nullptr;
     std::string name_;
     std::optional<int> index_;
+    ScaleUnit inner_unit_ = ScaleUnit::Twips;
     std::vector<Child*> children_;
     std::vector<std::pair<std::string, Object*>> arrays_;
     std::map<std::string, EventHandler, IgnoringCase> handlers_;

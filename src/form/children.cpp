@@ -1,6 +1,9 @@
 #include "form/children.hpp"
 
+#include "form/text_lines.hpp"
 #include "support/interface.hpp"
+
+#include <algorithm>
 
 namespace zendara
 {
@@ -53,8 +56,18 @@ void Label::fit_caption()
 {
     if (!is_auto_size_)
         return;
-    auto const extent = platform().text_extent(Font(), caption());
-    Move(Left(), Top(), extent.width, extent.height);
+    Platform::Extent all;
+    for_each_line(caption(), [&](std::string_view line) {
+        auto const extent = platform().text_extent(Font(), line);
+        all.width = std::max(all.width, extent.width);
+        all.height += extent.height;
+    });
+    double const width = all.width / twips_per_unit_x();
+    double const growth = width - Width();
+    double const left = alignment == Alignment::Left    ? Left()
+                        : alignment == Alignment::Right ? Left() - growth
+                                                        : Left() - growth / 2;
+    Move(left, Top(), width, all.height / twips_per_unit_y());
 }
 
 PictureBox::PictureBox(Child& container, std::string name, std::optional<int> index)

@@ -16,6 +16,10 @@ class Button;
 class PictureBox;
 class ImageBox;
 class TextBox;
+class LineShape;
+class UpDown;
+class OptionButton;
+class CheckBox;
 class Window;
 
 /// Does something by the kind of a child, without asking for its type.
@@ -29,6 +33,10 @@ public:
     virtual void visit(PictureBox&) = 0;
     virtual void visit(ImageBox&) = 0;
     virtual void visit(TextBox&) = 0;
+    virtual void visit(LineShape&) = 0;
+    virtual void visit(UpDown&) = 0;
+    virtual void visit(OptionButton&) = 0;
+    virtual void visit(CheckBox&) = 0;
     virtual void visit(Window&) = 0;
 };
 
@@ -61,13 +69,6 @@ private:
     Object* mouse_icon_ = nullptr; // the host's
 };
 
-/// A window that is shown modally and ends with OK or Cancel.
-class Form : public Window
-{
-public:
-    using Window::Window;
-};
-
 /// A box with a line around it and its caption in the upper edge.
 class Frame : public Child
 {
@@ -80,7 +81,11 @@ public:
     void accept(ChildVisitor& visitor) override { visitor.visit(*this); }
 };
 
-/// A line of text. With AutoSize it is as wide as its caption.
+/// Where a text stands in its label.
+enum class Alignment { Left, Right, Center };
+
+/// One or more lines of text, parted by line feeds. With AutoSize it is as wide and as high as its caption, and the
+/// edge or the middle where it is aligned stays in its place.
 class Label : public Child
 {
 public:
@@ -88,6 +93,7 @@ public:
 
     bool AutoSize() const { return is_auto_size_; }
     void AutoSize(bool is_auto_size);
+    Alignment alignment = Alignment::Left;
     bool has_border = false; // a thin line around, for colour swatches
 
     void accept(ChildVisitor& visitor) override { visitor.visit(*this); }
@@ -189,10 +195,15 @@ public:
     int Count() const override { return static_cast<int>(elements_.size()); }
     int lower_bound() const { return lower_; }
 
+    /// Gives an element that is loaded later its size and its looks.
+    std::function<void(T&)> on_load;
+
     void load_next() override
     {
         add_element();
         elements_.back()->Visible(false);
+        if (on_load)
+            on_load(*elements_.back());
     }
 
     Interface const& host_interface() const override;

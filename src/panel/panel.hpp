@@ -290,8 +290,10 @@ public:
 private:
     friend class BucketSearch;      // the plain and the fast form of Interpolation
     friend class SitePlot;          // what the plots of subsystem render share
+    friend class HistogramPlot;
     friend struct BucketTableProbe; // lets tests look at the table
 
+    static double GaussNorm(double z); // standard normal density
     std::int16_t site_count() const; // nop_ as a 16-bit counter takes it
     void store_site(std::int32_t site, double x, double y, double Z);
     bool BuildSiteBuckets();

@@ -26,12 +26,6 @@ double value_below(double upper, double lower)
     return finite((lower < 0 ? 1.1 : 0.9) * lower - 0.001);
 }
 
-double standard_normal_density(double z)
-{
-    double const two_pi = 2 * (4 * std::atan(1.0));
-    return std::exp(-0.5 * finite(z * z)) / std::sqrt(two_pi);
-}
-
 double square(double value)
 {
     return finite(value * value);
@@ -89,9 +83,15 @@ void panel::setMaximalMinial(double maxim, double minim)
     Low = value_below(maxim, minim);
 }
 
+double panel::GaussNorm(double z)
+{
+    double const two_pi = 2 * (4 * std::atan(1.0));
+    return std::exp(-0.5 * finite(z * z)) / std::sqrt(two_pi);
+}
+
 double panel::Gauss(double hist_x) const
 {
-    return standard_normal_density(divide(finite(hist_x - mean), StdDev));
+    return GaussNorm(divide(finite(hist_x - mean), StdDev));
 }
 
 double panel::Globlal_Value_Sub_Mean(double& glmean) const

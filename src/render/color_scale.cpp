@@ -1,9 +1,8 @@
-#include "panel/panel.hpp"
+#include "render/color_scale.hpp"
+
 #include "render/widget.hpp"
 #include "support/checked.hpp"
 #include "support/number_text.hpp"
-
-#include <array>
 
 namespace zendara
 {
@@ -57,15 +56,17 @@ std::string interval_text(Bounds bounds, TextForm const& form, double lower, dou
 
 } // namespace
 
-void panel::scale_colored(WidgetArray& scalCol, WidgetArray& scallab, std::int16_t) const
+std::array<IntervalRow, 10> interval_rows(panel const& record)
 {
-    bool const has_limits = maximal != maxi || minimal != mini;
-    double const margin = has_limits ? (maximal - minimal) / 8 : 0;
-    double const lo = finite(minimal - margin);
-    double const hi = finite(maximal + margin);
+    bool const has_limits = record.maximal != record.maxi || record.minimal != record.mini;
+    double const margin = has_limits ? (record.maximal - record.minimal) / 8 : 0;
+    double const lo = finite(record.minimal - margin);
+    double const hi = finite(record.maximal + margin);
     double const interval = (hi - lo) / intervals;
     LegendForms const forms = legend_forms(lo, hi);
-    std::array const colors = {col1, col2, col3, col4, col5, col6, col7, col8, col9, col10};
+    std::array const colors = {record.col1, record.col2, record.col3, record.col4, record.col5,
+                               record.col6, record.col7, record.col8, record.col9, record.col10};
+    std::array<IntervalRow, intervals> rows;
     for (int i = 1; i <= intervals; ++i) {
         double const upper = hi - (i - 1) * interval;
         double const lower = hi - i * interval;
@@ -74,9 +75,26 @@ void panel::scale_colored(WidgetArray& scalCol, WidgetArray& scallab, std::int16
             bounds = Bounds::LowerOnly;
         if (has_limits && i == intervals)
             bounds = Bounds::UpperOnly;
-        scallab(i).caption(interval_text(bounds, forms.caption, lower, upper));
-        scallab(i).ToolTipText(interval_text(bounds, forms.tool_tip, lower, upper));
-        scalCol(i).BackColor(to_i32(colors[static_cast<std::size_t>(i - 1)]));
+        auto const index = static_cast<std::size_t>(i - 1);
+        rows[index] = {interval_text(bounds, forms.caption, lower, upper),
+                       interval_text(bounds, forms.tool_tip, lower, upper), colors[index]};
+    }
+    return rows;
+}
+
+std::array<SigmaRow, 3> sigma_rows(panel const& record, std::string const& range)
+{
+    return {{{">   " + range, record.ColS1}, {"+-  " + range, record.ColS2}, {"< - " + range, record.ColS3}}};
+}
+
+void panel::scale_colored(WidgetArray& scalCol, WidgetArray& scallab, std::int16_t) const
+{
+    int i = 0;
+    for (auto const& row : interval_rows(*this)) {
+        ++i;
+        scallab(i).caption(row.text);
+        scallab(i).ToolTipText(row.exact_text);
+        scalCol(i).BackColor(to_i32(row.color));
     }
 }
 
@@ -90,15 +108,14 @@ void panel::scale_sigma(WidgetArray& scalCol, WidgetArray& scallab, double Sigma
         scallab(i).Visible(false);
         scalCol(i).Visible(false);
     }
-    auto const show_row = [&](int row, std::string const& caption, double color) {
-        scallab(row).caption(caption);
-        scalCol(row).BackColor(to_i32(color));
-        scallab(row).Visible(true);
-        scalCol(row).Visible(true);
-    };
-    show_row(1, ">   " + text, ColS1);
-    show_row(3, "+-  " + text, ColS2);
-    show_row(5, "< - " + text, ColS3);
+    int i = 1;
+    for (auto const& row : sigma_rows(*this, text)) {
+        scallab(i).caption(row.text);
+        scalCol(i).BackColor(to_i32(row.color));
+        scallab(i).Visible(true);
+        scalCol(i).Visible(true);
+        i += 2; // with an empty row between
+    }
 }
 
 std::string panel::FormatLbl(double dummy) const

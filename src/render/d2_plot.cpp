@@ -9,7 +9,6 @@ namespace
 {
 
 constexpr std::int16_t style_intervals = 5;
-constexpr std::int16_t fewest_cells = 4; // to each side of the centre
 constexpr double too_few_sites_for_a_map = 3;
 
 /// What the caller of D2Plot asks for.
@@ -35,7 +34,6 @@ public:
 
 private:
     void fix_mark_sizes();
-    void find_raster();
     void find_zoom();
     void draw_map();
     void allocate_raster();
@@ -50,12 +48,9 @@ private:
     void refresh_for_screen();
 
     double corner_y(std::size_t row) const { return (cells_y_ - static_cast<int>(row)) * request_.resy; }
-    std::size_t columns() const { return 2 * static_cast<std::size_t>(cells_x_); }
-    std::size_t rows() const { return 2 * static_cast<std::size_t>(cells_y_); }
 
     MapRequest request_;
     std::int16_t mark_w_ = 6, mark_h_ = 2, mark_arm_ = 3;
-    std::int16_t cells_x_ = 0, cells_y_ = 0; // half the number of columns and rows
 
     std::vector<double> corner_x_;                     // millimetres, from the right to the left
     std::vector<std::int32_t> corner_x_px_;            // surface units
@@ -74,7 +69,7 @@ void ColorMapPlot::run()
     fix_low();
     find_rectangle();
     fix_mark_sizes();
-    find_raster();
+    find_raster(request_.resx, request_.resy);
     find_zoom();
     fix_band();
     if (nop() > too_few_sites_for_a_map)
@@ -92,20 +87,6 @@ void ColorMapPlot::fix_mark_sizes()
     step([&] { mark_w_ = to_i16(12 * surface_.TwipsPerPixelX()); });
     step([&] { mark_h_ = to_i16(4 * surface_.TwipsPerPixelY()); });
     step([&] { mark_arm_ = to_i16(6 * surface_.TwipsPerPixelX()); });
-}
-
-void ColorMapPlot::find_raster()
-{
-    step([&] { cells_x_ = to_i16(divide(record_.HalfTestSizeX, request_.resx)); });
-    step([&] { cells_y_ = to_i16(divide(record_.HalfTestSizey, request_.resy)); });
-    if (cells_x_ < fewest_cells) {
-        cells_x_ = fewest_cells;
-        request_.resx = record_.HalfTestSizeX / fewest_cells;
-    }
-    if (cells_y_ < fewest_cells) {
-        cells_y_ = fewest_cells;
-        request_.resy = record_.HalfTestSizey / fewest_cells;
-    }
 }
 
 // One zoom for both axes, so that the map keeps the panel's proportions.

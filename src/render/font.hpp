@@ -9,10 +9,12 @@
 namespace zendara
 {
 
-/// A text face and its size in points.
+/// A text face, its size in points and its looks.
 struct FontFace {
     std::string Name = "Arial";
     double size = 8;
+    bool Bold = false;
+    bool Underline = false;
 
     bool operator==(FontFace const&) const = default;
 };

@@ -7,6 +7,9 @@
 namespace zendara
 {
 
+/// A pixel that leaves what lies under it where an image is shown stretched.
+constexpr std::uint32_t see_through = 0xFF000000;
+
 /// A finished picture: 32-bit pixels, red in the lowest byte, row by row from the top.
 class Image
 {

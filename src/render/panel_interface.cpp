@@ -100,6 +100,13 @@ std::vector<Member> record_methods()
     };
 }
 
+std::vector<Argument> histogram_arguments(std::string_view kind)
+{
+    return {by_reference(kind),     by_reference("Plot"),   by_reference("histPic"), by_reference("x0"),
+            by_reference("y0"),     by_reference("breite"), by_reference("hoehe"),   by_value("stat_resol"),
+            by_reference("laenge"), by_reference("left"),   by_reference("top"),     by_reference("ShowDisp")};
+}
+
 std::vector<Member> plot_methods()
 {
     std::vector<Argument> const box = {by_reference("Plot"),  by_reference("left"),   by_reference("top"),
@@ -113,6 +120,23 @@ std::vector<Member> plot_methods()
         method<P, &P::D2Number>("D2Number", box, "Prints the values at their places."),
         method<P, &P::D2GridNumber>("D2GridNumber", box, "Prints the site numbers at their places."),
         method<P, &P::GridPosPlot>("GridPosPlot", box, "Prints the site numbers in the surface's colour."),
+        method<P, &P::D2Contour>("D2Contour",
+                                 {by_reference("Plot"), by_value("distance"), by_value("marked_sites"),
+                                  by_value("reso"), by_value("colored"), by_reference("left"), by_reference("top"),
+                                  by_reference("width"), by_reference("height"), by_reference("ShowDispl")},
+                                 "Draws lines of equal value."),
+        method<P, &P::D3Plot>("D3Plot",
+                              {by_reference("Plot"), by_value("resx"), by_value("resy"), by_value("fwscal"),
+                               by_value("alp2"), by_value("thet2"), by_value("PlotStyle"), by_value("SigmaRange"),
+                               by_reference("fprint"), by_reference("left"), by_reference("top"), by_reference("width"),
+                               by_reference("height"), by_reference("ShowDispl")},
+                              "Draws the panel as a surface."),
+        method<P, &P::D2BeamPlot>("D2BeamPlot",
+                                  {by_reference("Plot"), by_value("bx"), by_value("by"), by_value("fwscal"),
+                                   by_value("alp2"), by_value("thet2"), by_reference("fprint"), by_reference("left"),
+                                   by_reference("top"), by_reference("width"), by_reference("height"),
+                                   by_reference("ShowDispl")},
+                                  "Stands a bar on each site."),
         method<P, &P::GridPosShow>("GridPosShow",
                                    {by_value("FNLabel"), by_value("FNPic"), by_value("alph"), by_value("thet")},
                                    "Draws the small figure of the turned panel."),
@@ -122,7 +146,53 @@ std::vector<Member> plot_methods()
             "Fills the ten-interval legend."),
         method<P, &P::scale_sigma>("scale_sigma", {by_value("scalCol"), by_value("scallab"), by_value("SigmaRange")},
                                    "Fills the three-band legend."),
+        method<P, &P::Statistic>("Statistic", histogram_arguments("PlotType"), "Draws the histogram."),
+        method<P, &P::Statistic_Quer>("Statistic_Quer", histogram_arguments("RightD"),
+                                      "Draws the histogram crosswise."),
         method<P, &P::FormatLbl>("FormatLbl", {by_value("dummy")}, "Number text of value read-outs."),
+    };
+}
+
+std::vector<Argument> by_references(std::initializer_list<std::string_view> names)
+{
+    std::vector<Argument> arguments;
+    for (auto const name : names)
+        arguments.push_back(by_reference(name));
+    return arguments;
+}
+
+std::vector<Member> scan_methods()
+{
+    auto either_form = [](std::vector<Argument> targets) {
+        for (auto const* name : {"Plotopt", "phi", "x1", "y1", "x2", "y2"})
+            targets.push_back(by_reference(name));
+        targets.push_back(by_value("x3"));
+        targets.push_back(by_value("y3"));
+        return targets;
+    };
+    std::vector<Argument> indicator = either_form({by_reference("Iline"), by_reference("plus")});
+    indicator.push_back(by_reference("Plot"));
+    return {
+        method<P, &P::D1Plot_calculate_ends_coord>(
+            "D1Plot_calculate_ends_coord", by_references({"x1", "y1", "x2", "y2", "xstart", "ystart", "xend", "yend"}),
+            "Ends of the line through two points."),
+        method<P, &P::D1Plot_calculate_ends_angle>(
+            "D1Plot_calculate_ends_angle", by_references({"x1", "y1", "phi", "xstart", "ystart", "xend", "yend"}),
+            "Ends of the line through a point at an angle."),
+        method<P, &P::D1Plot>("D1Plot",
+                              by_references({"Plot", "resol", "phi", "D1Angle", "x1", "y1", "x2", "y2", "DrawCol",
+                                             "left", "top", "width", "height", "ShowDisp"}),
+                              "Draws the values along a line."),
+        method<P, &P::D1Plot_MarkSites>("D1Plot_MarkSites",
+                                        by_references({"Plot", "picgrid", "phi", "D1Angle", "x1", "y1", "x2", "y2",
+                                                       "DrawCol", "left", "top", "width", "height", "ShowDisp"}),
+                                        "Marks the sites on a line."),
+        method<P, &P::D1Plot_AdjustLines>("D1Plot_AdjustLines",
+                                          by_references({"Plot", "left", "top", "width", "height"}),
+                                          "Draws the grid of a line scan."),
+        method<P, &P::D1Plot_Show_lblXY>("D1Plot_Show_lblXY", either_form({by_reference("lblX"), by_reference("lblY")}),
+                                         "Writes the axis labels of a line scan."),
+        method<P, &P::draw_indicator>("draw_indicator", indicator, "Shows a line on a picture of the panel."),
     };
 }
 
@@ -131,7 +201,7 @@ std::vector<Member> plot_methods()
 Interface const& panel::host_interface() const
 {
     static Interface const table{"panel", "The record of one panel and its plots.",
-                                 join({data_members(), record_methods(), plot_methods()})};
+                                 join({data_members(), record_methods(), plot_methods(), scan_methods()})};
     return table;
 }
 

@@ -68,6 +68,8 @@ RasterPicture::RasterPicture(int width_px, int height_px, GlyphSource& glyphs, d
     : image_(new_image(width_px, height_px, back_color)), glyphs_(&glyphs), twips_per_pixel_(twips_per_pixel)
 {
     BackColor = back_color;
+    width = width_px * twips_per_pixel;
+    height = height_px * twips_per_pixel;
 }
 
 void RasterPicture::resize(int width_px, int height_px)
@@ -76,6 +78,18 @@ void RasterPicture::resize(int width_px, int height_px)
         return;
     picture_ = nullptr;
     image_ = new_image(width_px, height_px, BackColor);
+}
+
+void RasterPicture::set_height(double twips)
+{
+    auto const before = image_;
+    int const height_px = to_i32(twips / twips_per_pixel_);
+    height = twips;
+    if (height_px == before->height())
+        return;
+    picture_ = nullptr;
+    image_ = new_image(before->width(), height_px, BackColor);
+    draw_image(*before, 0, 0);
 }
 
 void RasterPicture::draw_image(Image const& image, std::int32_t x, std::int32_t y)
@@ -107,8 +121,11 @@ void RasterPicture::draw_image_stretched(Image const& image, std::int32_t x, std
     for (std::int64_t row = rows.first; row < rows.end; ++row) {
         std::uint32_t const* const source = image.row(static_cast<int>(nearest(row - y, height, image.height())));
         std::uint32_t* const shown = target.row(static_cast<int>(row));
-        for (std::int64_t column = columns.first; column < columns.end; ++column)
-            shown[column] = source[nearest(column - x, width, image.width())];
+        for (std::int64_t column = columns.first; column < columns.end; ++column) {
+            std::uint32_t const pixel = source[nearest(column - x, width, image.width())];
+            if (pixel != see_through)
+                shown[column] = pixel;
+        }
     }
 }
 
@@ -122,9 +139,11 @@ void RasterPicture::Polygon(std::array<DevicePoint, 4> const& corners)
 {
     if (has_fill())
         fill_polygon(own_image(), corners, {pixel_of(FillColor), FillStyle == fill_diagonal_cross});
-    if (has_outline())
-        for (std::size_t i = 0; i < corners.size(); ++i)
-            stroke(corners[i], corners[(i + 1) % corners.size()], pixel_of(ForeColor));
+    if (!has_outline())
+        return;
+    std::uint32_t const pixel = pixel_of(ForeColor);
+    for (std::size_t i = 0; i < corners.size(); ++i)
+        stroke(corners[i], corners[(i + 1) % corners.size()], pixel);
 }
 
 double RasterPicture::TextWidth(std::string_view text) const
@@ -219,9 +238,15 @@ void RasterPicture::draw_text(std::string_view text)
     if (!FontTransparent)
         fill_box(image, {pen, top, pen + advance_of(*glyphs_, Font, text), top + line.height}, {pixel_of(BackColor)});
     std::uint32_t const pixel = pixel_of(ForeColor);
+    if (Font.Underline)
+        fill_box(image, {pen, top + line.ascent + 1, pen + advance_of(*glyphs_, Font, text), top + line.ascent + 2},
+                 {pixel});
     while (!text.empty()) {
         Glyph const& glyph = glyphs_->glyph(Font, next_letter(text));
-        draw_glyph(image, glyph, pen + glyph.left, top + line.ascent - glyph.top, pixel);
+        std::int64_t const left = pen + glyph.left;
+        draw_glyph(image, glyph, left, top + line.ascent - glyph.top, pixel);
+        if (Font.Bold) // struck twice, as wide as before
+            draw_glyph(image, glyph, left + 1, top + line.ascent - glyph.top, pixel);
         pen += glyph.advance;
     }
 }

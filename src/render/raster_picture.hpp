@@ -28,7 +28,8 @@ public:
     /// @param x  left column in pixels, may lie outside
     /// @param y  top row
     void draw_image(Image const& image, std::int32_t x, std::int32_t y);
-    /// Copies an image in another size: each pixel takes the nearest one of the image.
+    /// Copies an image in another size: each pixel takes the nearest one of the image, or stays where that one is
+    /// see_through.
     void draw_image_stretched(Image const& image, std::int32_t x, std::int32_t y, std::int32_t width,
                               std::int32_t height);
 
@@ -51,6 +52,8 @@ public:
     std::shared_ptr<Image const> image() const override { return image_; }
     /// Also shows the new background at once, in place of what has been drawn.
     void set_picture(std::shared_ptr<Image const> picture) override;
+    /// The new rows have the background colour; the background picture is given up.
+    void set_height(double twips) override;
 
 protected:
     void draw_cls() override;

@@ -115,13 +115,30 @@ private:
     /// The whole part is rounded down, so that the rest is never negative.
     void add_quotient(std::uint64_t dividend, bool is_negative, std::int64_t& whole, std::uint64_t& rest) const
     {
-        auto const quotient = static_cast<std::int64_t>(dividend / run_);
-        rest = dividend % run_;
+        std::int64_t quotient = 0;
+        rest = dividend;
+        // Divisions are the dear part of small shapes, and most slopes are below 1 or short.
+        if (dividend == run_) {
+            quotient = 1;
+            rest = 0;
+        } else if (dividend > run_) {
+            std::uint64_t const whole_part = divided(dividend, run_);
+            quotient = static_cast<std::int64_t>(whole_part);
+            rest = dividend - whole_part * run_;
+        }
         whole += is_negative ? -quotient : quotient;
         if (is_negative && rest != 0) {
             --whole;
             rest = run_ - rest;
         }
+    }
+
+    static std::uint64_t divided(std::uint64_t dividend, std::uint64_t divisor)
+    {
+        constexpr std::uint64_t most = std::numeric_limits<std::uint32_t>::max();
+        if (dividend <= most && divisor <= most)
+            return static_cast<std::uint32_t>(dividend) / static_cast<std::uint32_t>(divisor);
+        return dividend / divisor;
     }
 
     std::int64_t whole_ = 0;
@@ -176,6 +193,84 @@ struct Crossings {
     }
 };
 
+/// Two corners that lie opposite each other are both above the other two, so that some rows have four crossings.
+bool has_two_peaks(std::array<DevicePoint, 4> const& p)
+{
+    auto const are_above = [](DevicePoint const& a, DevicePoint const& b, DevicePoint const& c, DevicePoint const& d) {
+        return std::max(a.y, b.y) < std::min(c.y, d.y);
+    };
+    return are_above(p[0], p[2], p[1], p[3]) || are_above(p[1], p[3], p[0], p[2]);
+}
+
+/// One side of a polygon without a second peak, on its way from the top corner down.
+class Side
+{
+public:
+    /// @param turn  1 from corner to corner in their order, 3 against it
+    Side(std::array<DevicePoint, 4> const& corners, std::size_t top, std::size_t turn, std::int64_t first_row)
+        : corners_(corners), at_(top), turn_(turn)
+    {
+        go_on(first_row);
+    }
+
+    /// The row where the present edge ends.
+    std::int64_t end() const { return end_; }
+    std::int64_t column() const { return slope_.rounded_up(); }
+    void next() { slope_.next(); }
+
+    /// Takes the edge that crosses the row; there has to be one.
+    void go_on(std::int64_t row)
+    {
+        DevicePoint from;
+        do {
+            from = corners_[at_];
+            at_ = (at_ + turn_) % 4;
+            end_ = corners_[at_].y;
+        } while (end_ <= row);
+        slope_ = Slope(from.x, std::int64_t{corners_[at_].x} - from.x, static_cast<std::uint64_t>(end_ - from.y),
+                       static_cast<std::uint64_t>(row - from.y));
+    }
+
+private:
+    std::array<DevicePoint, 4> const& corners_;
+    std::size_t at_;
+    std::size_t turn_;
+    std::int64_t end_ = 0;
+    Slope slope_;
+};
+
+/// Fills between the two sides of a polygon without a second peak: each row has just two crossings.
+void fill_between_sides(Image& image, std::array<DevicePoint, 4> const& corners, Paint const& paint)
+{
+    std::size_t top = 0;
+    std::int64_t bottom = corners[0].y;
+    for (std::size_t i = 1; i < corners.size(); ++i) {
+        if (corners[i].y < corners[top].y)
+            top = i;
+        bottom = std::max<std::int64_t>(bottom, corners[i].y);
+    }
+    std::int64_t y = std::max<std::int64_t>(corners[top].y, 0);
+    bottom = std::min<std::int64_t>(bottom, image.height());
+    if (y >= bottom)
+        return;
+
+    Side one(corners, top, 1, y);
+    Side other(corners, top, 3, y);
+    while (true) {
+        std::int64_t const end = std::min({one.end(), other.end(), bottom});
+        for (; y < end; ++y, one.next(), other.next()) {
+            auto const [left, right] = std::minmax({one.column(), other.column()});
+            paint_clipped_run(image, y, left, right, paint);
+        }
+        if (y >= bottom)
+            return;
+        if (one.end() == y)
+            one.go_on(y);
+        if (other.end() == y)
+            other.go_on(y);
+    }
+}
+
 /// The box that four corners span, in either turn and from any corner on.
 bool is_box(std::array<DevicePoint, 4> const& p)
 {
@@ -201,9 +296,15 @@ void walk_line(DevicePoint from, DevicePoint to, std::int64_t length_limit, std:
         return;
     Slope slope(start.y, std::int64_t{end.y} - start.y, static_cast<std::uint64_t>(std::int64_t{end.x} - start.x),
                 static_cast<std::uint64_t>(first - start.x));
+    auto const is_inside = [&](std::int64_t y) { return y >= 0 && y < width_limit; };
+    if (is_inside(start.y) && is_inside(end.y)) {
+        for (std::int64_t x = first; x <= last; ++x, slope.next())
+            put(static_cast<int>(x), static_cast<int>(slope.nearest()));
+        return;
+    }
     for (std::int64_t x = first; x <= last; ++x, slope.next()) {
         std::int64_t const y = slope.nearest();
-        if (y >= 0 && y < width_limit)
+        if (is_inside(y))
             put(static_cast<int>(x), static_cast<int>(y));
     }
 }
@@ -343,7 +444,10 @@ void fill_box(Image& image, PixelBox const& box, Paint const& paint)
 void fill_polygon(Image& image, std::array<DevicePoint, 4> const& corners, Paint const& paint)
 {
     if (!is_box(corners)) {
-        fill_polygon_by_edges(image, corners, paint);
+        if (has_two_peaks(corners))
+            fill_polygon_by_edges(image, corners, paint);
+        else
+            fill_between_sides(image, corners, paint);
         return;
     }
     auto const [left, right] = std::minmax(corners[0].x, corners[2].x);

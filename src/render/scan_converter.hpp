@@ -34,7 +34,7 @@ void fill_box(Image& image, PixelBox const& box, Paint const& paint);
 /// number of edges to its left.
 void fill_polygon(Image& image, std::array<DevicePoint, 4> const& corners, Paint const& paint);
 
-/// As fill_polygon, without its short cut for boxes.
+/// As fill_polygon, without its short cuts.
 void fill_polygon_by_edges(Image& image, std::array<DevicePoint, 4> const& corners, Paint const& paint);
 
 /// A line one pixel wide, its last point left out. Along its longer direction it has one pixel at each step, the one

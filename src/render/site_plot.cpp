@@ -67,14 +67,14 @@ void SitePlot::fix_scale_range()
     step([&] { scale_top_ = finite(maximal + (maximal - minimal) / 8); });
 }
 
-void SitePlot::fix_low()
+void SitePlot::fix_low(double highest, double lowest)
 {
-    if (scale_top_ != scale_bottom_)
-        step([&] { record_.Low = finite(scale_bottom_ - (scale_top_ - scale_bottom_) * 0.1); });
-    else if (scale_bottom_ < 0)
-        step([&] { record_.Low = finite(1.1 * scale_bottom_ - 0.001); });
+    if (highest != lowest)
+        step([&] { record_.Low = finite(lowest - (highest - lowest) * 0.1); });
+    else if (lowest < 0)
+        step([&] { record_.Low = finite(1.1 * lowest - 0.001); });
     else
-        step([&] { record_.Low = finite(0.9 * scale_bottom_ - 0.001); });
+        step([&] { record_.Low = finite(0.9 * lowest - 0.001); });
 }
 
 void SitePlot::find_rectangle()
@@ -90,6 +90,21 @@ void SitePlot::find_rectangle()
     step([&] { plot_w_ = to_i16(surface_.ScaleWidth()); });
     step([&] { plot_t_ = to_i16(surface_.ScaleTop()); });
     step([&] { plot_h_ = to_i16(surface_.ScaleHeight()); });
+}
+
+void SitePlot::find_raster(double& cell_width, double& cell_height)
+{
+    constexpr std::int16_t fewest_cells = 4; // to each side of the centre
+    step([&] { cells_x_ = to_i16(divide(record_.HalfTestSizeX, cell_width)); });
+    step([&] { cells_y_ = to_i16(divide(record_.HalfTestSizey, cell_height)); });
+    if (cells_x_ < fewest_cells) {
+        cells_x_ = fewest_cells;
+        cell_width = record_.HalfTestSizeX / fewest_cells;
+    }
+    if (cells_y_ < fewest_cells) {
+        cells_y_ = fewest_cells;
+        cell_height = record_.HalfTestSizey / fewest_cells;
+    }
 }
 
 void SitePlot::fix_band()

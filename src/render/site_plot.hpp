@@ -76,8 +76,13 @@ protected:
 
     void clear_surface();
     void fix_scale_range();
-    void fix_low();
+    void fix_low() { fix_low(scale_top_, scale_bottom_); }
+    /// Sets the value below a range of values that stands for nothing.
+    void fix_low(double highest, double lowest);
     void find_rectangle();
+    /// Finds the raster of cells around the panel's centre: at least four to each side, for which the cells' sizes in
+    /// millimetres are lowered in place.
+    void find_raster(double& cell_width, double& cell_height);
     void fix_band();
     void draw_frame();
     void refresh_screen_picture();
@@ -104,6 +109,9 @@ protected:
     double site_y(std::int16_t site) const { return record_.grid_y_(site); }
     double site_z(std::int16_t site) const { return record_.grid_z_(site); }
 
+    std::size_t columns() const { return 2 * static_cast<std::size_t>(cells_x_); }
+    std::size_t rows() const { return 2 * static_cast<std::size_t>(cells_y_); }
+
     panel& record_;
     Surface& surface_;
     PlotBox const box_;
@@ -113,6 +121,7 @@ protected:
     std::int16_t plot_l_ = 0, plot_w_ = 0, plot_t_ = 0, plot_h_ = 0;
     bool is_rectangle_repaired_ = false;
     double scale_bottom_ = 0, scale_top_ = 0;
+    std::int16_t cells_x_ = 0, cells_y_ = 0; // half the number of columns and rows of a raster
     double zoom_ = 0; // surface units per millimetre; also the full height of the scaled value range
     double band_ = 0; // one colour interval, scaled
 

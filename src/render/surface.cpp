@@ -205,6 +205,8 @@ Interface const& Surface::host_interface() const
             field<S, &S::FontTransparent>("FontTransparent", "The ground shows through text."),
             font_part<&FontFace::Name>("FontName", "Text face."),
             font_part<&FontFace::size>("FontSize", "Text size in points."),
+            font_part<&FontFace::Bold>("FontBold", "Text in bold."),
+            font_part<&FontFace::Underline>("FontUnderline", "Text with a line below."),
             getter<S, &S::hdc>("hdc", "Device handle."),
             field<S, &S::left>("left", "Place in the container."),
             field<S, &S::top>("top", "Place in the container."),

@@ -95,6 +95,8 @@ public:
     /// 1 for twips, 3 for pixels.
     std::int16_t ScaleMode() const { return scale_mode_; }
     void ScaleMode(std::int16_t mode);
+    /// The unit that the surface starts with: no write that a record would show.
+    void start_scale_mode(std::int16_t mode) { scale_mode_ = mode; }
 
     /// Twips per device pixel, of the printer or, on a picture, of the screen.
     virtual double TwipsPerPixelX() const = 0;
@@ -111,6 +113,10 @@ public:
     /// Takes an image as the background that Cls goes back to; nullptr takes it away.
     virtual void set_picture(std::shared_ptr<Image const> picture) = 0;
 
+    /// Writes `height`; a picture with pixels keeps what it shows, and grows or shrinks at its lower edge.
+    /// @throws Failure  Overflow when the pixels cannot be counted
+    virtual void set_height(double twips) { height = twips; }
+
     Interface const& host_interface() const override;
 
 protected:
@@ -125,9 +131,6 @@ protected:
     virtual void draw_circle(double x, double y, double radius, Color color) = 0;
     virtual void draw_text(std::string_view text) = 0;
     virtual void scale_mode_written() {}
-
-    /// For the surface's own start value: no write that a record would show.
-    void start_scale_mode(std::int16_t mode) { scale_mode_ = mode; }
 
 private:
     std::int16_t scale_mode_ = scale_pixels;

@@ -57,6 +57,15 @@ inline double finite(double value)
     return value;
 }
 
+/// Rounds to a 32-bit float.
+/// @throws Failure  Overflow when the result does not fit, NaN included
+inline float to_f32(double value)
+{
+    if (!(std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
+        fail(FailureKind::Overflow, "a number does not fit into a 32-bit float");
+    return static_cast<float>(value);
+}
+
 /// dividend / divisor.
 /// @throws Failure  DivisionByZero when the divisor is 0, Overflow when the quotient is not finite
 inline double divide(double dividend, double divisor)

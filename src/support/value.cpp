@@ -71,4 +71,15 @@ Object* to_object(Value const& value)
     return *object;
 }
 
+ObjectList to_object_list(Value const& value)
+{
+    if (auto const* const list = std::get_if<ObjectList>(&value))
+        return *list;
+    auto const* const array = std::get_if<HostArray<double>>(&value);
+    bool const is_empty = std::holds_alternative<Empty>(value) || (array != nullptr && array->values().empty());
+    if (!is_empty)
+        mismatch("list of objects");
+    return {};
+}
+
 } // namespace zendara

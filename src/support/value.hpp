@@ -8,6 +8,7 @@
 #include <string>
 #include <type_traits>
 #include <variant>
+#include <vector>
 
 namespace zendara
 {
@@ -17,8 +18,13 @@ struct Empty {
     bool operator==(Empty const&) const = default;
 };
 
-/// One value of the interface: a number, a text, an array, an object (which it does not own), or nothing.
-using Value = std::variant<Empty, std::int16_t, std::int32_t, float, double, std::string, HostArray<double>, Object*>;
+/// Several objects, which it does not own.
+using ObjectList = std::vector<Object*>;
+
+/// One value of the interface: a number, a text, an array, an object (which it does not own), several objects, or
+/// nothing.
+using Value =
+    std::variant<Empty, std::int16_t, std::int32_t, float, double, std::string, HostArray<double>, Object*, ObjectList>;
 
 /// The value as a Double.
 /// @throws Failure  TypeMismatch when it is neither a number nor the text of one
@@ -35,6 +41,10 @@ HostArray<double> const& to_array(Value const& value);
 /// The object in the value, nullptr for nothing.
 /// @throws Failure  TypeMismatch when it is neither
 Object* to_object(Value const& value);
+
+/// The objects in the value, none for nothing and for an empty array.
+/// @throws Failure  TypeMismatch when it holds anything else
+ObjectList to_object_list(Value const& value);
 
 /// Converts an interface value into the C++ type that a member takes. Numbers are rounded half to even.
 /// @throws Failure  TypeMismatch, or Overflow when a number does not fit

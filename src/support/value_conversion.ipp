@@ -27,6 +27,8 @@ template <class T> T from_value(Value const& value)
         return to_text(value);
     } else if constexpr (std::is_same_v<T, HostArray<double>>) {
         return to_array(value);
+    } else if constexpr (std::is_same_v<T, ObjectList>) {
+        return to_object_list(value);
     } else {
         static_assert(std::is_pointer_v<T>, "no conversion from an interface value to this type");
         Object* const object = to_object(value);

@@ -269,8 +269,7 @@ TEST_F(Program, LimitsInTheWrongOrderAreRejected)
 TEST_F(Program, OutputsThatCannotBeWrittenAreRejected)
 {
     write_sites();
-    expect_bad_input("plot film.csv -o a.svg", "-o a.svg: .svg files cannot be written yet, only .png");
-    expect_bad_input("plot film.csv -o a.gif", "-o a.gif: expected a name that ends in .png");
+    expect_bad_input("plot film.csv -o a.gif", "-o a.gif: expected a name that ends in .png, .pdf or .svg");
     expect_bad_input("plot film.csv -o missing/a.png", "missing/a.png: No such file or directory");
 }
 

@@ -155,6 +155,21 @@ TEST(FillPolygon, EveryPixelFollowsTheRuleOfLeftEdges)
     }
 }
 
+TEST(FillPolygon, EveryPolygonOfAFewColumnsAndRowsFollowsTheRule)
+{
+    constexpr std::int32_t columns = 3, rows = 4;
+    constexpr int places = columns * rows;
+    for (int number = 0; number < places * places * places * places; ++number) {
+        Corners corners;
+        int rest = number;
+        for (DevicePoint& corner : corners) {
+            corner = {rest % places % columns, rest % places / columns - 1}; // the top row lies above the picture
+            rest /= places;
+        }
+        ASSERT_EQ(filled(corners, columns, rows), slowly_filled(corners, columns, rows)) << "polygon " << number;
+    }
+}
+
 TEST(FillPolygon, EveryPixelFollowsTheRuleForCornersOfAll32Bits)
 {
     std::mt19937 random(2);

@@ -1,10 +1,15 @@
 #include "script/classes.hpp"
 
 #include "controls/control.hpp"
+#include "dialogs/dialog_classes.hpp"
 #include "near_names.hpp"
 #include "panel/panel.hpp"
+#include "print/print_panel.hpp"
+#include "print/viewbitmap.hpp"
 #include "render/raster_picture.hpp"
 #include "render/recorder.hpp"
+#include "script/options.hpp"
+#include "script/pdf_printer.hpp"
 #include "script/support_routines.hpp"
 #include "support/checked.hpp"
 #include "support/interface.hpp"
@@ -20,56 +25,13 @@ namespace zendara::program
 namespace
 {
 
-double option(Json const& options, char const* name, double default_value)
-{
-    auto const found = options.find(name);
-    if (found == options.end())
-        return default_value;
-    if (!found->is_number())
-        throw Failure(FailureKind::TypeMismatch, std::string("the option ") + name + " is no number");
-    return found->get<double>();
-}
-
 Recorder::PictureArea picture_area(Json const& options)
 {
     Recorder::PictureArea const usual;
-    return {option(options, "ScaleLeft", usual.left_px), option(options, "ScaleTop", usual.top_px),
-            option(options, "ScaleWidth", usual.width_px), option(options, "ScaleHeight", usual.height_px)};
+    return {number_option(options, "ScaleLeft", usual.left_px), number_option(options, "ScaleTop", usual.top_px),
+            number_option(options, "ScaleWidth", usual.width_px),
+            number_option(options, "ScaleHeight", usual.height_px)};
 }
-
-/// A picture with pixels, and where it sits in its container.
-class HostPicture : public Object
-{
-public:
-    HostPicture(int width_px, int height_px, GlyphSource& glyphs) : picture_(width_px, height_px, glyphs)
-    {
-        width = picture_.width_px() * picture_.TwipsPerPixelX();
-        height = picture_.height_px() * picture_.TwipsPerPixelY();
-    }
-
-    /// In the container's unit, whatever it is.
-    double left = 0;
-    double top = 0;
-    double width;
-    double height;
-
-    Object* inner() override { return &picture_; }
-
-    Interface const& host_interface() const override
-    {
-        using P = HostPicture;
-        static Interface const table{"Picture",
-                                     "A picture with pixels.",
-                                     {field<P, &P::left>("left", "Place in its container."),
-                                      field<P, &P::top>("top", "Place in its container."),
-                                      field<P, &P::width>("width", "Size in its container."),
-                                      field<P, &P::height>("height", "Size in its container.")}};
-        return table;
-    }
-
-private:
-    RasterPicture picture_;
-};
 
 int pixels(double value)
 {
@@ -82,9 +44,13 @@ int pixels(double value)
 
 using Made = std::unique_ptr<Object>;
 
-Made make_panel(Json const&, HeadlessPlatform&)
+Made make_panel(Json const&, HeadlessPlatform& platform)
 {
-    return std::make_unique<panel>();
+    auto record = std::make_unique<panel>();
+    record->show_message = [&platform](std::string_view text, int style, std::string_view title) {
+        platform.message_box(text, style, title);
+    };
+    return record;
 }
 
 Made make_support(Json const&, HeadlessPlatform&)
@@ -105,42 +71,78 @@ Made make_trace_picture(Json const& options, HeadlessPlatform&)
 Made make_trace_printer(Json const& options, HeadlessPlatform&)
 {
     constexpr double usual = 2.4; // twips per pixel, 600 dots per inch
-    return Recorder::printer(option(options, "TwipsPerPixelX", usual), option(options, "TwipsPerPixelY", usual));
+    return Recorder::printer(number_option(options, "TwipsPerPixelX", usual),
+                             number_option(options, "TwipsPerPixelY", usual));
+}
+
+Made make_pdf_printer(Json const& options, HeadlessPlatform&)
+{
+    return std::make_unique<PdfPrinter>(options);
 }
 
 Made make_picture(Json const& options, HeadlessPlatform& platform)
 {
     auto const area = picture_area(options);
-    return std::make_unique<HostPicture>(pixels(area.width_px), pixels(area.height_px), platform.glyphs());
+    return std::make_unique<RasterPicture>(pixels(area.width_px), pixels(area.height_px), platform.glyphs());
+}
+
+Made make_print_panel(Json const&, HeadlessPlatform&)
+{
+    return std::make_unique<PrintPanel>();
+}
+
+Made make_data_picture(Json const&, HeadlessPlatform& platform)
+{
+    return std::make_unique<viewbitmap>(platform);
 }
 
 struct HostClass {
     std::string_view name;
     Made (*make)(Json const& options, HeadlessPlatform& platform);
 };
-constexpr std::array<HostClass, 6> host_classes = {{
+constexpr std::array<HostClass, 9> host_classes = {{
     {"panel", make_panel},
+    {"PrintPanel", make_print_panel},
+    {"viewbitmap", make_data_picture},
     {"Support", make_support},
     {"PropertyBag", make_bag},
     {"TracePicture", make_trace_picture},
     {"TracePrinter", make_trace_printer},
+    {"PdfPrinter", make_pdf_printer},
     {"Picture", make_picture},
 }};
 
 Made make_control(ControlClass const& wanted, Json const& options, HeadlessPlatform& platform)
 {
     constexpr double usual_width = 6000, usual_height = 4500; // twips
-    auto const width = option(options, "Width", usual_width);
-    auto const height = option(options, "Height", usual_height);
+    auto const width = number_option(options, "Width", usual_width);
+    auto const height = number_option(options, "Height", usual_height);
     auto control = wanted.make(platform);
     control->InitProperties();
     control->window().resize(width, height);
     return control;
 }
 
+// A dialog that a script makes is up at once, beside the script and not modally.
+Made make_dialog(DialogClass const& wanted, HeadlessPlatform& platform)
+{
+    auto dialog = wanted.make(platform);
+    dialog->Visible(true);
+    return dialog;
+}
+
+Made make_page(PageClass const& wanted, HeadlessPlatform& platform)
+{
+    return wanted.make(platform);
+}
+
 [[noreturn]] void no_such_class(std::string_view name)
 {
     std::vector<std::string_view> names;
+    for (auto const& each : dialog_classes())
+        names.push_back(each.name);
+    for (auto const& each : page_classes())
+        names.push_back(each.name);
     for (auto const& each : control_classes())
         names.push_back(each.name);
     for (auto const& each : host_classes)
@@ -159,6 +161,12 @@ Made make_object(std::string_view class_name, Json const& options, HeadlessPlatf
     for (auto const& each : host_classes)
         if (equals_ignoring_case(each.name, class_name))
             return each.make(options, platform);
+    for (auto const& each : dialog_classes())
+        if (equals_ignoring_case(each.name, class_name))
+            return make_dialog(each, platform);
+    for (auto const& each : page_classes())
+        if (equals_ignoring_case(each.name, class_name))
+            return make_page(each, platform);
     no_such_class(class_name);
 }
 

@@ -1,5 +1,6 @@
 #include "script/session.hpp"
 
+#include "form/form.hpp"
 #include "script/steps.hpp"
 #include "support/failure.hpp"
 

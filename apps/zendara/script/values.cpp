@@ -42,6 +42,22 @@ Value array(std::int32_t lower, Json const& values)
     return HostArray<double>(lower, std::move(elements));
 }
 
+bool is_object_name(Json const& json)
+{
+    return json.is_string() && json.get_ref<std::string const&>().starts_with('$');
+}
+
+ObjectList object_list(Json const& names, Objects const& objects)
+{
+    ObjectList list;
+    for (Json const& each : names) {
+        if (!is_object_name(each))
+            fail(FailureKind::TypeMismatch, "a list of objects holds something else");
+        list.push_back(&objects.find(each.get_ref<std::string const&>()));
+    }
+    return list;
+}
+
 Value text(std::string const& text, Objects const& objects)
 {
     if (text.starts_with('$'))
@@ -59,6 +75,8 @@ Value to_value(Json const& json, Objects const& objects)
         return number(json);
     if (json.is_string())
         return text(json.get_ref<std::string const&>(), objects);
+    if (json.is_array() && !json.empty() && is_object_name(json.front()))
+        return object_list(json, objects);
     if (json.is_array())
         return array(0, json);
     if (json.is_object())

@@ -11,7 +11,8 @@ namespace zendara::program
 {
 
 /// The interface value of a script's value. A text that begins with "$" names an object.
-/// @throws Failure  what Objects::find throws, TypeMismatch for an array that holds anything but numbers
+/// @throws Failure  what Objects::find throws, TypeMismatch for an array that holds neither numbers alone
+///                  nor names of objects alone
 Value to_value(Json const& json, Objects const& objects);
 
 /// The values of a step from one position on.

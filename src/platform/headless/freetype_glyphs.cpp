@@ -1,11 +1,6 @@
 #include "platform/headless/freetype_glyphs.hpp"
 
-#include "support/failure.hpp"
-#include "support/interface.hpp"
-
-#include <ft2build.h>
-#include FT_FREETYPE_H
-#include FT_MODULE_H
+#include "platform/headless/font_files.hpp"
 
 #include <array>
 #include <cmath>
@@ -22,57 +17,10 @@ namespace
 
 constexpr int dots_per_inch = 96;
 
-struct FontFile {
-    char const* folder;
-    char const* name;
-    char const* package;
-};
-
-constexpr FontFile arial_file = {"/usr/share/fonts/truetype/liberation", "LiberationSans-Regular.ttf",
-                                 "fonts-liberation"};
-constexpr FontFile symbol_file = {"/usr/share/fonts/opentype/urw-base35", "StandardSymbolsPS.otf", "fonts-urw-base35"};
-
-using FaceHandle = std::unique_ptr<FT_FaceRec, void (*)(FT_Face)>;
-using LibraryHandle = std::unique_ptr<FT_LibraryRec_, void (*)(FT_Library)>;
-
 /// Size in 64ths of a point.
 FT_F26Dot6 size_of(FontFace const& face)
 {
-    double const points = std::isnan(face.size) ? 8 : std::min(std::max(face.size, 1.0), 1000.0);
-    return std::lround(points * 64);
-}
-
-LibraryHandle open_library()
-{
-    FT_Library library = nullptr;
-    if (FT_Init_FreeType(&library) != 0)
-        throw Failure(FailureKind::FileError, "FreeType does not start");
-    // The library reads such settings from the environment; pictures have to be the same in all of them.
-    FT_UInt interpreter = 40;
-    FT_UInt hinting_engine = 1; // Adobe's
-    FT_Bool no_stem_darkening = 1;
-    FT_Property_Set(library, "truetype", "interpreter-version", &interpreter);
-    FT_Property_Set(library, "cff", "hinting-engine", &hinting_engine);
-    FT_Property_Set(library, "cff", "no-stem-darkening", &no_stem_darkening);
-    return {library, [](FT_Library handle) { FT_Done_FreeType(handle); }};
-}
-
-FaceHandle open_face(FT_Library library, FontFile const& file, std::filesystem::path const& folder)
-{
-    auto const path = ((folder.empty() ? std::filesystem::path(file.folder) : folder) / file.name).string();
-    FT_Face face = nullptr;
-    if (FT_New_Face(library, path.c_str(), 0, &face) != 0)
-        throw Failure(FailureKind::FileError,
-                      "the font file " + path + " is missing or broken (package " + file.package + ")");
-    return {face, [](FT_Face handle) { FT_Done_Face(handle); }};
-}
-
-/// A symbol face may name its signs in several tables; the one wanted finds them under Latin letters.
-void choose_table_of_latin_letters(FT_Face face)
-{
-    for (FT_Int i = 0; i < face->num_charmaps; ++i)
-        if (FT_Set_Charmap(face, face->charmaps[i]) == 0 && FT_Get_Char_Index(face, 's') != 0)
-            return;
+    return std::lround(shown_size(face.size) * 64);
 }
 
 int whole_pixels(FT_Pos length)
@@ -162,35 +110,31 @@ public:
     {
         if (recent_ != nullptr && font == recent_font_)
             return *recent_;
-        bool const is_symbol = equals_ignoring_case(font.Name, "Symbol");
-        auto const key = std::pair(is_symbol, size_of(font));
+        auto const key = std::pair(text_face_of(font.Name), size_of(font));
         auto found = sized_faces_.find(key);
         if (found == sized_faces_.end())
-            found = sized_faces_.try_emplace(key, face(is_symbol), key.second).first;
+            found = sized_faces_.try_emplace(key, face(key.first), key.second).first;
         recent_ = &found->second;
         recent_font_ = font;
         return *recent_;
     }
 
 private:
-    FT_Face face(bool is_symbol)
+    FT_Face face(TextFace wanted)
     {
         if (!library_)
-            library_ = open_library();
-        if (is_symbol && !symbol_) {
-            symbol_ = open_face(library_.get(), symbol_file, folder_);
-            choose_table_of_latin_letters(symbol_.get());
-        }
-        if (!is_symbol && !arial_)
-            arial_ = open_face(library_.get(), arial_file, folder_);
-        return is_symbol ? symbol_.get() : arial_.get();
+            library_ = open_font_library();
+        FaceHandle& handle = wanted == TextFace::Symbol ? symbol_ : arial_;
+        if (!handle)
+            handle = open_font_file(library_.get(), wanted, folder_);
+        return handle.get();
     }
 
     std::filesystem::path folder_;
     LibraryHandle library_{nullptr, nullptr};
     FaceHandle arial_{nullptr, nullptr};
     FaceHandle symbol_{nullptr, nullptr};
-    std::map<std::pair<bool, FT_F26Dot6>, SizedFace> sized_faces_; // Symbol or not, and the size
+    std::map<std::pair<TextFace, FT_F26Dot6>, SizedFace> sized_faces_;
     SizedFace* recent_ = nullptr;
     FontFace recent_font_;
 };

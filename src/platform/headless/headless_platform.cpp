@@ -1,5 +1,6 @@
 #include "platform/headless/headless_platform.hpp"
 
+#include "form/form.hpp"
 #include "render/raster_picture.hpp"
 #include "support/checked.hpp"
 #include "support/locale.hpp"
@@ -28,15 +29,26 @@ std::string decimal_mark_of_user()
     return mark;
 }
 
-int to_pixels(double twips)
+// A length of a box's place, which is in twips unless its container is scaled in pixels.
+double in_pixels(PictureBox const& box, double length)
 {
-    return twips > 0 ? to_i32(twips / twips_per_pixel) : 0;
+    return box.unit() == ScaleUnit::Pixels ? length : length / twips_per_pixel;
 }
 
 Recorder::PictureArea area_of(PictureBox const& box)
 {
-    return {0, 0, box.Width() / twips_per_pixel, box.Height() / twips_per_pixel};
+    return {0, 0, in_pixels(box, box.Width()), in_pixels(box, box.Height())};
 }
+
+/// Whole pixels of a box.
+struct PixelSize {
+    int width, height;
+
+    explicit PixelSize(PictureBox const& box) : width(whole(box, box.Width())), height(whole(box, box.Height())) {}
+
+private:
+    static int whole(PictureBox const& box, double length) { return length > 0 ? to_i32(in_pixels(box, length)) : 0; }
+};
 
 } // namespace
 
@@ -67,6 +79,8 @@ void HeadlessPlatform::show_modal(Form& form)
 {
     if (on_modal)
         on_modal(form);
+    if (form.Visible())
+        form.close();
 }
 
 std::string HeadlessPlatform::version() const
@@ -81,9 +95,12 @@ std::unique_ptr<Surface> HeadlessPlatform::make_surface(PictureBox& box)
         box.on_size = [&box, surface = recorder.get()] { surface->set_area(area_of(box)); };
         return recorder;
     }
-    auto picture = std::make_unique<RasterPicture>(to_pixels(box.Width()), to_pixels(box.Height()), glyphs_,
-                                                   twips_per_pixel, box.BackColor());
-    box.on_size = [&box, surface = picture.get()] { surface->resize(to_pixels(box.Width()), to_pixels(box.Height())); };
+    PixelSize const size(box);
+    auto picture = std::make_unique<RasterPicture>(size.width, size.height, glyphs_, twips_per_pixel, box.BackColor());
+    box.on_size = [&box, surface = picture.get()] {
+        PixelSize const now(box);
+        surface->resize(now.width, now.height);
+    };
     return picture;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/headless/png_file.hpp"
 
+#include "platform/headless/whole_file.hpp"
 #include "support/failure.hpp"
 
 #include <libdeflate.h>
@@ -7,16 +8,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <csetjmp>
-#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <new>
 #include <optional>
 #include <ostream>
 #include <string>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -33,11 +31,6 @@ namespace fs = std::filesystem;
 constexpr int compression_level = 1;
 
 constexpr std::uint32_t color_bits = 0xFFFFFF;
-
-[[noreturn]] void fail_with(fs::path const& path, std::string const& reason)
-{
-    throw Failure(FailureKind::FileError, path.string() + ": " + reason);
-}
 
 // The rows of a PNG file: a byte that names no filter, then the pixels.
 
@@ -246,82 +239,15 @@ std::vector<char> encoded(Image const& image)
     return file;
 }
 
-// Files.
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-std::string last_error()
-{
-    return std::strerror(errno);
-}
-
-bool write_all(File file, std::vector<char> const& bytes)
-{
-    bool const is_written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    return std::fclose(file.release()) == 0 && is_written;
-}
-
-/// A file beside the target that nobody else writes.
-File open_beside(fs::path const& target, fs::path& path)
-{
-    constexpr int most_writers = 1000;
-    for (int i = 0; i < most_writers; ++i) {
-        path = target;
-        path += ".part" + std::to_string(i);
-        File file(std::fopen(path.string().c_str(), "wbx"));
-        if (file || errno != EEXIST)
-            return file;
-    }
-    return nullptr;
-}
-
-void write_straight(fs::path const& path, std::vector<char> const& bytes)
-{
-    File file(std::fopen(path.string().c_str(), "wb"));
-    if (!file || !write_all(std::move(file), bytes))
-        fail_with(path, last_error());
-}
-
-void write_and_rename(fs::path const& target, fs::path const& shown_path, std::vector<char> const& bytes)
-{
-    fs::path part;
-    File file = open_beside(target, part);
-    if (!file)
-        fail_with(shown_path, last_error());
-    std::error_code error;
-    if (!write_all(std::move(file), bytes)) {
-        std::string const reason = last_error();
-        fs::remove(part, error);
-        fail_with(shown_path, reason);
-    }
-    fs::rename(part, target, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove(part, ignored);
-        fail_with(shown_path, error.message());
-    }
-}
-
 } // namespace
 
 void write_png(Image const& image, fs::path const& path)
 {
     std::vector<char> const bytes = encoded(image);
     if (bytes.empty())
-        fail_with(path, "a picture of this size cannot be a PNG file");
+        fail_with_file(path, "a picture of this size cannot be a PNG file");
 
-    // A link stays, and so does a device or a pipe, which a file must not replace.
-    std::error_code error;
-    fs::file_status const status = fs::status(path, error);
-    if (fs::is_other(status))
-        write_straight(path, bytes);
-    else if (fs::is_regular_file(status))
-        write_and_rename(fs::canonical(path), path, bytes);
-    else
-        write_and_rename(path, path, bytes);
+    write_whole_file(path, bytes);
 }
 
 void write_png(Image const& image, std::ostream& stream)
@@ -337,12 +263,12 @@ Image read_png(fs::path const& path)
     png_image file = {};
     file.version = PNG_IMAGE_VERSION;
     if (png_image_begin_read_from_file(&file, path.string().c_str()) == 0)
-        fail_with(path, file.message);
+        fail_with_file(path, file.message);
     file.format = PNG_FORMAT_RGB;
     std::vector<png_byte> bytes(PNG_IMAGE_SIZE(file));
     png_color const white = {255, 255, 255};
     if (png_image_finish_read(&file, &white, bytes.data(), 0, nullptr) == 0)
-        fail_with(path, file.message);
+        fail_with_file(path, file.message);
 
     Image image(static_cast<int>(file.width), static_cast<int>(file.height));
     png_byte const* byte = bytes.data();

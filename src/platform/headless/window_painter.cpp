@@ -1,8 +1,14 @@
 #include "platform/headless/window_painter.hpp"
 
+#include "form/check_box.hpp"
+#include "form/line_shape.hpp"
+#include "form/option_button.hpp"
+#include "form/text_lines.hpp"
+#include "form/up_down.hpp"
 #include "render/raster_picture.hpp"
 #include "support/checked.hpp"
 
+#include <array>
 #include <cmath>
 
 namespace zendara
@@ -15,6 +21,7 @@ constexpr double twips_per_pixel = 15;
 constexpr Color edge_shadow = system_color(16);
 constexpr Color edge_light = system_color(20);
 constexpr Color edge_dark = system_color(21);
+constexpr Color pressed_face = rgb(234, 232, 228); // between the face of a button and its lighter edge
 
 /// A child's place on the canvas, in pixels.
 struct Area {
@@ -62,17 +69,25 @@ private:
             fill(area, edge_shadow);
             fill({area.left + 1, area.top + 1, area.right - 1, area.bottom - 1}, label.BackColor());
         }
-        print(label, area.left, area.top);
+        take_font(label);
+        int top = area.top;
+        for_each_line(label.caption(), [&](std::string_view line) {
+            int const room = area.width() - static_cast<int>(canvas_.TextWidth(line));
+            int const indent = label.alignment == Alignment::Left    ? 0
+                               : label.alignment == Alignment::Right ? room
+                                                                     : room / 2;
+            print_text(line, area.left + indent, top);
+            if (top == area.top)
+                underline_access_key(label, line, area.left + indent, top);
+            top += static_cast<int>(canvas_.TextHeight(line));
+        });
     }
 
     void visit(Button& button) override
     {
         Area const area = area_of(button);
         draw_raised_edge(area, button.BackColor());
-        take_font(button);
-        int const width = static_cast<int>(canvas_.TextWidth(button.caption()));
-        int const height = static_cast<int>(canvas_.TextHeight(button.caption()));
-        print(button, area.left + (area.width() - width) / 2, area.top + (area.height() - height) / 2);
+        print_centered(button, area, 0);
     }
 
     void visit(PictureBox& box) override
@@ -101,22 +116,111 @@ private:
         print_text(box.Text(), area.left + 3, area.top + 3);
     }
 
+    void visit(LineShape& line) override
+    {
+        auto const x = [&](double place) { return pixel(left_ + place * line.twips_per_unit_x()); };
+        auto const y = [&](double place) { return pixel(top_ + place * line.twips_per_unit_y()); };
+        canvas_.Line(x(line.X1()), y(line.Y1()), x(line.X2()), y(line.Y2()), line.ForeColor());
+    }
+
+    void visit(UpDown& arrows) override
+    {
+        Area const area = area_of(arrows);
+        int const middle = area.top + area.height() / 2;
+        Color const arrow = arrows.Enabled() ? window_text : edge_shadow;
+        draw_raised_edge({area.left, area.top, area.right, middle}, arrows.BackColor());
+        draw_raised_edge({area.left, middle, area.right, area.bottom}, arrows.BackColor());
+        int const center = area.left + (area.width() - 1) / 2;
+        constexpr int arrow_height = 3;
+        int const upper_tip = (area.top + middle - arrow_height) / 2;
+        int const lower_tip = (middle + area.bottom + arrow_height) / 2 - 1;
+        for (int row = 0; row < arrow_height; ++row) {
+            fill({center - row, upper_tip + row, center + row + 1, upper_tip + row + 1}, arrow);
+            fill({center - row, lower_tip - row, center + row + 1, lower_tip - row + 1}, arrow);
+        }
+    }
+
+    void visit(OptionButton& button) override
+    {
+        Area const area = area_of(button);
+        // One row of the left half of a round mark: where its ring, its inside and its dot begin, in pixels.
+        struct Row {
+            int ring, inside, dot;
+        };
+        constexpr int none = 6;
+        constexpr std::array<Row, 6> half = {
+            {{4, none, none}, {2, 4, none}, {1, 2, none}, {1, 2, none}, {0, 1, 4}, {0, 1, 3}}};
+        constexpr int size = 12;
+        int const top = area.top + (area.height() - size) / 2;
+        for (int y = 0; y < size; ++y) {
+            Row const& row = half[static_cast<std::size_t>(y < size / 2 ? y : size - 1 - y)];
+            auto const fill_between = [&](int from, Color color) {
+                fill({area.left + from, top + y, area.left + size - from, top + y + 1}, color);
+            };
+            fill_between(row.ring, edge_shadow);
+            fill_between(row.inside, window_background);
+            if (button.Value())
+                fill_between(row.dot, window_text);
+        }
+        print_beside_mark(button, area);
+    }
+
+    void visit(CheckBox& box) override
+    {
+        Area const area = area_of(box);
+        if (box.is_push_button) {
+            paint_push_button(box, area);
+            return;
+        }
+        constexpr int size = 13;
+        int const top = area.top + (area.height() - size) / 2;
+        Color const inside = box.Value() == 2 ? button_face : window_background;
+        fill({area.left, top, area.left + size, top + size}, edge_shadow);
+        fill({area.left + 1, top + 1, area.left + size - 1, top + size - 1}, inside);
+        if (box.Value() != 0) {
+            constexpr std::array<int, 7> tick = {5, 6, 7, 6, 5, 4, 3}; // upper ends of strokes of three pixels
+            for (std::size_t x = 0; x < tick.size(); ++x) {
+                int const left = area.left + 3 + static_cast<int>(x);
+                fill({left, top + tick[x], left + 1, top + tick[x] + 3}, box.Value() == 2 ? edge_shadow : window_text);
+            }
+        }
+        print_beside_mark(box, area);
+    }
+
+    void paint_push_button(CheckBox const& box, Area const& area)
+    {
+        if (!box.is_checked()) {
+            draw_raised_edge(area, box.BackColor());
+            print_centered(box, area, 0);
+            return;
+        }
+        fill(area, edge_light);
+        fill({area.left, area.top, area.right - 1, area.bottom - 1}, edge_dark);
+        fill({area.left + 1, area.top + 1, area.right - 1, area.bottom - 1}, pressed_face);
+        print_centered(box, area, 1);
+    }
+
     void paint_children(Child& container)
     {
-        left_ += container.Left();
-        top_ += container.Top();
+        double const left = container.Left() * container.twips_per_unit_x();
+        double const top = container.Top() * container.twips_per_unit_y();
+        left_ += left;
+        top_ += top;
         for (Child* const child : container.children())
             paint(*child);
-        left_ -= container.Left();
-        top_ -= container.Top();
+        left_ -= left;
+        top_ -= top;
     }
+
+    static int pixel(double twips) { return to_i32(twips / twips_per_pixel); }
 
     Area area_of(Child const& child) const
     {
-        auto const pixel = [](double twips) { return to_i32(twips / twips_per_pixel); };
-        double const left = left_ + child.Left();
-        double const top = top_ + child.Top();
-        return {pixel(left), pixel(top), pixel(left + child.Width()), pixel(top + child.Height())};
+        double const unit_x = child.twips_per_unit_x();
+        double const unit_y = child.twips_per_unit_y();
+        double const left = left_ + child.Left() * unit_x;
+        double const top = top_ + child.Top() * unit_y;
+        return {pixel(left), pixel(top), pixel(left + child.Width() * unit_x), pixel(top + child.Height() * unit_y)};
     }
 
     void fill(Area const& area, Color color)
@@ -164,9 +268,38 @@ private:
     {
         take_font(child);
         print_text(child.caption(), left, top);
+        underline_access_key(child, child.caption(), left, top);
     }
 
-    void print_text(std::string const& text, int left, int top)
+    void print_centered(Child const& child, Area const& area, int shift)
+    {
+        take_font(child);
+        int const width = static_cast<int>(canvas_.TextWidth(child.caption()));
+        int const height = static_cast<int>(canvas_.TextHeight(child.caption()));
+        print(child, area.left + (area.width() - width) / 2 + shift, area.top + (area.height() - height) / 2 + shift);
+    }
+
+    void print_beside_mark(Child const& child, Area const& area)
+    {
+        constexpr int mark_width = 17;
+        take_font(child);
+        int const height = static_cast<int>(canvas_.TextHeight(child.caption()));
+        print(child, area.left + mark_width, area.top + (area.height() - height) / 2);
+    }
+
+    void underline_access_key(Child const& child, std::string_view text, int left, int top)
+    {
+        auto const letter = child.access_key == 0 ? std::string_view::npos : text.find(child.access_key);
+        if (letter == std::string_view::npos)
+            return;
+        constexpr int above_lower_edge = 2;
+        int const begin = left + static_cast<int>(canvas_.TextWidth(text.substr(0, letter)));
+        int const end = left + static_cast<int>(canvas_.TextWidth(text.substr(0, letter + 1)));
+        int const y = top + static_cast<int>(canvas_.TextHeight(text)) - above_lower_edge;
+        fill({begin, y, end, y + 1}, canvas_.ForeColor);
+    }
+
+    void print_text(std::string_view text, int left, int top)
     {
         canvas_.CurrentX = left;
         canvas_.CurrentY = top;
@@ -183,8 +316,10 @@ private:
 Image paint_child(Child& child, GlyphSource& glyphs)
 {
     auto const pixels = [](double twips) { return twips > 0 ? to_i32(twips / twips_per_pixel) : 0; };
-    RasterPicture canvas(pixels(child.Width()), pixels(child.Height()), glyphs);
-    WindowPainter(canvas, child.Left(), child.Top()).paint(child);
+    double const unit_x = child.twips_per_unit_x();
+    double const unit_y = child.twips_per_unit_y();
+    RasterPicture canvas(pixels(child.Width() * unit_x), pixels(child.Height() * unit_y), glyphs);
+    WindowPainter(canvas, child.Left() * unit_x, child.Top() * unit_y).paint(child);
     return *canvas.image();
 }
 

@@ -1,0 +1,418 @@
+#include "controls/zv_line_scan.hpp"
+
+#include "controls/stored_properties.hpp"
+#include "dialogs/frm_plot_opt_1d.hpp"
+#include "render/scan_labels.hpp"
+#include "support/checked.hpp"
+#include "support/field_check.hpp"
+#include "support/number_text.hpp"
+#include "support/trap.hpp"
+
+namespace zendara
+{
+
+namespace
+{
+
+constexpr std::int16_t steps_along_line = 88;
+constexpr Color curve_color = QBColor(4);
+constexpr std::int16_t key_up = 38;
+constexpr std::int16_t key_down = 40;
+constexpr int full_circle = 360;
+
+/// The looks of a control at work, until the end of the scope.
+class HourglassScope
+{
+public:
+    explicit HourglassScope(Window& window) : window_(window) { window_.MousePointer(11); }
+    HourglassScope(HourglassScope const&) = delete;
+    ~HourglassScope() { window_.MousePointer(0); }
+
+private:
+    Window& window_;
+};
+
+/// A run for the screen takes the whole picture: what it is told of a rectangle is nothing.
+struct NoBox {
+    double left = 0, top = 0, width = 0, height = 0;
+    std::int16_t show_disp = 0;
+};
+
+Enumeration const& plot_type_enumeration()
+{
+    static Enumeration const values{"PlotTypeEnumLineScan", {{"vbAngle", 1}, {"vbline", 2}}};
+    return values;
+}
+
+} // namespace
+
+ZvLineScan::ZvLineScan(Platform& platform) : frame_(*this, platform, "ZvLineScan"), view_(frame_.window)
+{
+    std::initializer_list<Child*> const sources = {&frame_.window, &view_.PLOTA, &view_.Plot};
+    frame_.forward(sources, click_events);
+    frame_.forward(sources, mouse_events);
+    frame_.window.on_resize = [this] { lay_out(); };
+    frame_.window.on("Show", [this](std::span<Value>) { show_again(); });
+    view_.btnoptions.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+    view_.AngleValue.on("Change", [this](std::span<Value>) { angle_text_changed(); });
+    view_.AngleValue.on(
+        "KeyDown", [this](std::span<Value> arguments) { angle_key_pressed(from_value<std::int16_t>(arguments[0])); });
+    view_.UpDown1.on("Change", [this](std::span<Value>) { view_.AngleValue.Text(plain_text(view_.UpDown1.Value())); });
+}
+
+void ZvLineScan::InitProperties()
+{
+    start_sizes();
+    line_ = {};
+    shows_sites_ = false;
+    frame_.legend_shown = true;
+    view_.show_form(false);
+    view_.btnoptions.Enabled(true);
+    view_.btnoptions.Visible(true);
+    view_.Plot.caption("");
+}
+
+// --- Settings ------------------------------------------------------------------------------------------------------
+
+void ZvLineScan::angle(std::int16_t angle)
+{
+    write_angle(within_circle(angle));
+    frame_.report_change("Angle");
+}
+
+void ZvLineScan::PlotType(PlotTypeEnumLineScan plot_type)
+{
+    line_.plot_type = to_i16(static_cast<double>(plot_type));
+    view_.PLOTA.Cls();
+    view_.show_form(line_.is_line_form());
+    frame_.report_change("PlotType");
+}
+
+void ZvLineScan::set_coordinate(double& coordinate, std::int16_t value, std::string_view property)
+{
+    view_.PLOTA.Cls();
+    coordinate = value;
+    frame_.report_change(property);
+}
+
+void ZvLineScan::ShowSites(Sites sites)
+{
+    shows_sites_ = sites != Sites::HideSites;
+    view_.hide_marks();
+    frame_.report_change("ShowSites");
+}
+
+void ZvLineScan::BackColor(Color color)
+{
+    view_.BackColor(color);
+    frame_.report_change("BackColor");
+}
+
+// Shown again in the form of two points, both overviews show; the one of the form covers the other.
+void ZvLineScan::HideLegend(BooleanWord is_hidden)
+{
+    frame_.legend_shown = !is_hidden;
+    view_.FNLabel(0).Visible(!is_hidden);
+    view_.btnoptions.Visible(!is_hidden);
+    if (!line_.is_angle_form())
+        view_.FNLabel(1).Visible(!is_hidden);
+    lay_out();
+    frame_.report_change("HideLegend");
+}
+
+void ZvLineScan::PlotCaption(std::string caption)
+{
+    view_.Plot.caption(std::move(caption));
+    frame_.window.Refresh();
+    frame_.report_change("PlotCaption");
+}
+
+std::int16_t ZvLineScan::GetLineOrAngle(std::int16_t angle, double& StartX, double& StartY, double& EndX, double& EndY)
+{
+    if (line_.is_line_form()) {
+        StartX = line_.line_start.x;
+        StartY = line_.line_start.y;
+        EndX = line_.line_end.x;
+        EndY = line_.line_end.y;
+    } else {
+        StartX = line_.rotation_point.x;
+        StartY = line_.rotation_point.y;
+        EndX = angle;
+    }
+    return 0;
+}
+
+void ZvLineScan::SetLineOrAngle(std::int16_t PlotType, std::int16_t angle, double AngleX, double AngleY, double StartX,
+                                double StartY, double EndX, double EndY)
+{
+    line_.plot_type = PlotType;
+    view_.show_form(!line_.is_angle_form());
+    if (line_.is_angle_form()) {
+        line_.rotation_point = {AngleX, AngleY};
+        write_angle(angle);
+    } else {
+        line_.line_start = {StartX, StartY};
+        line_.line_end = {EndX, EndY};
+    }
+}
+
+void ZvLineScan::ReleasePlotLimit()
+{
+    frame_.limits_set = false;
+    frame_.record.setMaximalMinial(frame_.record.maxi, frame_.record.mini);
+    show_labels();
+    plot_again();
+}
+
+void ZvLineScan::clear_display()
+{
+    view_.PLOTA.Cls();
+    view_.hide_marks();
+    frame_.forget_plot();
+}
+
+// --- Angle entry ---------------------------------------------------------------------------------------------------
+
+void ZvLineScan::write_angle(std::int16_t angle)
+{
+    view_.AngleValue.Text(plain_text(angle));
+}
+
+// Runs for every change of the text, by the user or by code. A text that is no angle becomes "0", which runs it again.
+void ZvLineScan::angle_text_changed()
+{
+    std::string const text = view_.AngleValue.Text();
+    if (!IsInRange(text, -1, full_circle) || !IsWholeText(text)) {
+        view_.AngleValue.Text("0");
+        return;
+    }
+    view_.PLOTA.Cls();
+    line_.angle_deg = to_i16(parse_number(text).value_or(0));
+    show_indicator(view_.by_angle);
+    show_labels();
+    draw_scan();
+}
+
+// The arrow keys go round the circle.
+void ZvLineScan::angle_key_pressed(std::int16_t key)
+{
+    UpDown& arrows = view_.UpDown1;
+    if (key == key_up) {
+        std::int32_t const next = arrows.Value() + arrows.Increment;
+        arrows.Value(next >= full_circle ? next - full_circle : next);
+    } else if (key == key_down) {
+        std::int32_t const next = arrows.Value() - arrows.Increment;
+        arrows.Value(next < 0 ? next + full_circle : next);
+    }
+}
+
+// --- Drawing -------------------------------------------------------------------------------------------------------
+
+std::int16_t ZvLineScan::Plot()
+{
+    if (frame_.record.GetNop() == 0)
+        return 1;
+    frame_.plot_requested = true;
+    fill_empty_sizes();
+    draw();
+    return 0;
+}
+
+void ZvLineScan::draw()
+{
+    HourglassScope const hourglass(frame_.window);
+    lay_out();
+    if (line_.is_angle_form())
+        draw_angle_form();
+    else if (frame_.plot_requested)
+        draw_line_form();
+}
+
+void ZvLineScan::draw_angle_form()
+{
+    TextBox& entry = view_.AngleValue;
+    frame_.record.GridPosShow(&view_.FNLabel(0), view_.by_angle.picture.surface(), 0, 90);
+    view_.FNLabel(0).caption("Angle :");
+    if (parse_number(entry.Text()).value_or(0) == line_.angle_deg) {
+        show_indicator(view_.by_angle);
+        show_labels();
+        draw_scan();
+    }
+    // Another text draws by its change handler; the same one is no change.
+    if (std::string const text = plain_text(line_.angle_deg); entry.Text() != text)
+        entry.Text(text);
+}
+
+void ZvLineScan::draw_line_form()
+{
+    view_.PLOTA.Cls();
+    show_labels();
+    frame_.record.GridPosShow(&view_.FNLabel(1), view_.by_points.picture.surface(), 0, 90);
+    show_indicator(view_.by_points);
+    draw_scan();
+}
+
+// Each step for itself: a failed one leaves the others.
+void ZvLineScan::lay_out()
+{
+    trap([this] { view_.take_smallest_size(frame_.legend_shown); });
+    trap([this] { view_.lay_out(frame_.legend_shown, ScanValueText(frame_.record.maximal)(frame_.record.maximal)); });
+    trap([this] {
+        PictureBox& picture = view_.PLOTA;
+        double left = 0, top = 0, width = picture.Width(), height = picture.Height();
+        picture.Cls();
+        picture.surface().set_picture(nullptr);
+        frame_.record.D1Plot_AdjustLines(picture.surface(), left, top, width, height);
+    });
+    show_again();
+}
+
+// Draws over what is there; failures leave it as it is.
+void ZvLineScan::show_again()
+{
+    if (!frame_.plot_requested)
+        return;
+    trap([this] { draw_curve(); });
+    if (shows_sites_)
+        trap([this] { mark_sites(); });
+}
+
+void ZvLineScan::draw_scan()
+{
+    if (!frame_.plot_requested)
+        return;
+    draw_curve();
+    if (shows_sites_)
+        mark_sites();
+}
+
+void ZvLineScan::draw_curve()
+{
+    ScanArguments line = line_.for_curve();
+    std::int16_t steps = steps_along_line;
+    Color color = curve_color;
+    NoBox box;
+    frame_.record.D1Plot(view_.PLOTA.surface(), steps, line.phi, line.is_angle, line.x1, line.y1, line.x2, line.y2,
+                         color, box.left, box.top, box.width, box.height, box.show_disp);
+}
+
+void ZvLineScan::mark_sites()
+{
+    ScanArguments line = line_.for_curve();
+    Color color = curve_color;
+    NoBox box;
+    frame_.record.D1Plot_MarkSites(view_.PLOTA.surface(), &view_.picgrid, line.phi, line.is_angle, line.x1, line.y1,
+                                   line.x2, line.y2, color, box.left, box.top, box.width, box.height, box.show_disp);
+}
+
+void ZvLineScan::show_labels()
+{
+    EitherFormArguments line = line_.for_labels();
+    frame_.record.D1Plot_Show_lblXY(view_.lblX, view_.lblY, line.plotopt, line.phi, line.x1, line.y1, line.x2, line.y2,
+                                    line.x3, line.y3);
+    view_.part_labels();
+}
+
+void ZvLineScan::show_indicator(LineOverview& overview)
+{
+    EitherFormArguments line = line_.for_labels();
+    frame_.record.draw_indicator(overview.line, overview.mark, line.plotopt, line.phi, line.x1, line.y1, line.x2,
+                                 line.y2, line.x3, line.y3, overview.picture.surface());
+    overview.line.Refresh();
+}
+
+// --- The rest of the interface -------------------------------------------------------------------------------------
+
+void ZvLineScan::ShowPlotOption()
+{
+    frmPlotOpt1D dialog(frame_.platform());
+    dialog.SetValues(frame_.record, line_.plot_type, line_.angle_deg, line_.rotation_point.x, line_.rotation_point.y,
+                     line_.line_start.x, line_.line_start.y, line_.line_end.x, line_.line_end.y, shows_sites_);
+    if (!frame_.confirms(dialog))
+        return;
+    ShowSites(dialog.GetMarkeSites() ? Sites::MarkSites : Sites::HideSites);
+    take_line(dialog);
+    view_.btnoptions.Enabled(false);
+    draw();
+    view_.btnoptions.Enabled(true);
+}
+
+void ZvLineScan::take_line(frmPlotOpt1D& dialog)
+{
+    std::int16_t angle = 0, mode = 0;
+    PanelPoint rotation, start, end;
+    dialog.GetResult(angle, rotation.x, rotation.y, start.x, start.y, end.x, end.y, mode);
+    PlotType(static_cast<PlotTypeEnumLineScan>(mode));
+    view_.UpDown1.Value(angle);
+    SetLineOrAngle(mode, angle, rotation.x, rotation.y, start.x, start.y, end.x, end.y);
+}
+
+void ZvLineScan::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+{
+    EitherFormArguments const line = line_.for_labels();
+    paper.Print_1DPlot(frame_.record, line.phi, line.plotopt, line.x1, line.y1, line.x2, line.y2, line.x3, line.y3,
+                       shows_sites_, PlotCaption(), box.left, box.top, box.width, box.height, with_frame);
+}
+
+std::vector<StoredProperty> const& ZvLineScan::stored_properties() const
+{
+    return stored_properties_of_line_scan();
+}
+
+Interface const& ZvLineScan::interface_table()
+{
+    using Z = ZvLineScan;
+    using I2 = std::int16_t;
+    constexpr auto both = MemberKind::GetPut;
+    constexpr auto put_first = MemberKind::PutGet;
+    std::vector<Argument> const line_or_angle = {by_reference("angle"), by_reference("StartX"), by_reference("StartY"),
+                                                 by_reference("EndX"), by_reference("EndY")};
+    std::vector<Argument> const whole_line = {by_reference("PlotType"), by_reference("angle"),  by_reference("AngleX"),
+                                              by_reference("AngleY"),   by_reference("StartX"), by_reference("StartY"),
+                                              by_reference("EndX"),     by_reference("EndY")};
+    static Interface const table{
+        "ZvLineScan", "Values of one panel along a line.",
+        join({
+            platform_rows<Z>(),
+            statistics_rows<Z>(),
+            size_rows<Z>(),
+            {accessors<Z, Z, I2, I2, &Z::angle, &Z::angle>("angle", both, "Direction of the line in degrees."),
+             accessors<Z, Z, PlotTypeEnumLineScan, PlotTypeEnumLineScan, &Z::PlotType, &Z::PlotType>(
+                 "PlotType", both, "Form of the line: by angle or through two points.")
+                 .of_type(Type::Enumeration, &plot_type_enumeration()),
+             accessors<Z, Z, I2, I2, &Z::RotationPointX, &Z::RotationPointX>("RotationPointX", both,
+                                                                             "Point of the line by angle, in mm."),
+             accessors<Z, Z, I2, I2, &Z::RotationPointY, &Z::RotationPointY>("RotationPointY", both,
+                                                                             "Point of the line by angle, in mm."),
+             accessors<Z, Z, I2, I2, &Z::LineStartPointX, &Z::LineStartPointX>("LineStartPointX", both,
+                                                                               "First of two points, in mm."),
+             accessors<Z, Z, I2, I2, &Z::LineStartPointY, &Z::LineStartPointY>("LineStartPointY", both,
+                                                                               "First of two points, in mm."),
+             accessors<Z, Z, I2, I2, &Z::LineEndPointX, &Z::LineEndPointX>("LineEndPointX", both,
+                                                                           "Second of two points, in mm."),
+             accessors<Z, Z, I2, I2, &Z::LineEndPointY, &Z::LineEndPointY>("LineEndPointY", both,
+                                                                           "Second of two points, in mm."),
+             accessors<Z, Z, Sites, Sites, &Z::ShowSites, &Z::ShowSites>("ShowSites", both,
+                                                                         "Marks the sites on the line.")
+                 .of_type(Type::Enumeration, &sites_enumeration()),
+             method<Z, &Z::Plot>("Plot", {}, "Shows the plot: 0 done, 1 no data."),
+             color_row<Z, Z, &Z::BackColor, &Z::BackColor>("BackColor", "Colour around the plot."),
+             show_plot_option_row<Z>()},
+            limit_rows<Z>(),
+            {set_panel_data_row<Z>(),
+             accessors<Z, Z, BooleanWord, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", put_first,
+                                                                                       "Hides the overview."),
+             accessors<Z, Z, std::string, std::string, &Z::PlotCaption, &Z::PlotCaption>("PlotCaption", put_first,
+                                                                                         "Caption of the plot."),
+             print_plot_row<Z>()},
+            print_data_rows<Z>(),
+            read_out_rows<Z>(),
+            {method<Z, &Z::SetPlotNotVaild>("SetPlotNotVaild", {}, "Clears the curve."), set_data_file_row<Z>(),
+             method<Z, &Z::GetLineOrAngle>("GetLineOrAngle", line_or_angle, "Reads the line."),
+             method<Z, &Z::SetLineOrAngle>("SetLineOrAngle", whole_line, "Sets the form and its line.")},
+        }),
+        control_events()};
+    return table;
+}
+
+} // namespace zendara

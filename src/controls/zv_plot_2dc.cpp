@@ -1,0 +1,233 @@
+#include "controls/zv_plot_2dc.hpp"
+
+#include "controls/stored_properties.hpp"
+#include "dialogs/frm_plot_opt_2dc.hpp"
+#include "support/checked.hpp"
+#include "support/number_text.hpp"
+
+#include <utility>
+
+namespace zendara
+{
+
+namespace
+{
+
+template <class Enum> std::int32_t number(Enum value)
+{
+    return static_cast<std::int32_t>(value);
+}
+
+Enumeration const& marks_enumeration()
+{
+    static Enumeration const values{"ExconEnum",
+                                    {{"Exact", number(ContourMarks::Exact)},
+                                     {"Converted", number(ContourMarks::Converted)},
+                                     {"None", number(ContourMarks::None)}}};
+    return values;
+}
+
+Enumeration const& resolution_enumeration()
+{
+    static Enumeration const values{"ResoEnum",
+                                    {{"LowQuality", number(ContourResolution::LowQuality)},
+                                     {"HighQuality", number(ContourResolution::HighQuality)},
+                                     {"Automatic", number(ContourResolution::Automatic)}}};
+    return values;
+}
+
+Enumeration const& colors_enumeration()
+{
+    static Enumeration const values{"DrawColEnum",
+                                    {{"BWhitePlot", number(ContourColors::BWhitePlot)},
+                                     {"Three_ColorPlot", number(ContourColors::Three_ColorPlot)},
+                                     {"Ten_ColorPlot", number(ContourColors::Ten_ColorPlot)}}};
+    return values;
+}
+
+} // namespace
+
+ZvPlot2DC::ZvPlot2DC(Platform& platform)
+    : frame_(*this, platform, "ZvPlot2DC"),
+      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_lines(); }); }}),
+      legend_(plot_frame_.column)
+{
+    plot_frame_.forward_events();
+    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+}
+
+void ZvPlot2DC::InitProperties()
+{
+    start_frame();
+    settings_ = {};
+    fill_legend();
+}
+
+void ZvPlot2DC::Interval(double interval)
+{
+    settings_.interval = interval < 0 ? 1 : interval;
+    frame_.settings_changed("Interval");
+}
+
+void ZvPlot2DC::IntervalInPercent(BooleanWord is_in_percent)
+{
+    settings_.is_in_percent = is_in_percent;
+    frame_.settings_changed("IntervalInPercent");
+}
+
+void ZvPlot2DC::MeasurementUnit(std::string unit)
+{
+    settings_.unit = std::move(unit);
+    frame_.settings_changed("MeasurementUnit");
+}
+
+void ZvPlot2DC::marksites(ContourMarks marks)
+{
+    settings_.marks = marks;
+    frame_.settings_changed("MarkSites");
+}
+
+void ZvPlot2DC::Resolution(ContourResolution resolution)
+{
+    settings_.resolution = resolution;
+    frame_.settings_changed("Resolution");
+}
+
+void ZvPlot2DC::PlotColored(ContourColors colors)
+{
+    settings_.colors = colors;
+    fill_legend();
+    frame_.settings_changed("PlotColored");
+}
+
+void ZvPlot2DC::fill_legend()
+{
+    legend_.fill(frame_.record, settings_.colors, distance_text());
+}
+
+void ZvPlot2DC::draw_lines()
+{
+    plot_frame_.show_position(0, 90);
+    frame_.record.D2Contour(plot_frame_.view.PLOTA.surface(), distance_in_percent(), to_i16(number(settings_.marks)),
+                            to_i16(number(settings_.resolution)), to_i16(number(settings_.colors)), 0, 0, 0, 0, 0);
+    fill_legend();
+}
+
+double ZvPlot2DC::distance_in_percent() const
+{
+    return settings_.is_in_percent ? settings_.interval : contour_percent(frame_.record, settings_.interval);
+}
+
+std::string ZvPlot2DC::distance_text() const
+{
+    std::string const unit = settings_.is_in_percent ? "%" : settings_.unit;
+    return plain_text(settings_.interval) + (unit.empty() ? "" : " " + unit);
+}
+
+Color ZvPlot2DC::curve_color(double panel::*curve) const
+{
+    return to_i32(frame_.record.*curve);
+}
+
+// The dialog speaks of measurement units where the control speaks of percent.
+void ZvPlot2DC::ShowPlotOption()
+{
+    frmPlotOpt2DC dialog(frame_.platform());
+    dialog.SetValues(frame_.record, to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
+                     to_i16(number(settings_.colors)), settings_.interval, plot_color(), !settings_.is_in_percent);
+    answer_options(dialog, [&] {
+        BooleanWord is_in_units;
+        Interval(dialog.GetDist(is_in_units));
+        IntervalInPercent(!is_in_units);
+        Resolution(static_cast<ContourResolution>(dialog.GetReso()));
+        marksites(static_cast<ContourMarks>(dialog.GetMarkeSites()));
+        PlotColored(static_cast<ContourColors>(dialog.GetShowColor()));
+        take_color(dialog.GetBackColor());
+    });
+}
+
+// The page wants to know whether the interval is in the measuring unit, the reverse of the property.
+void ZvPlot2DC::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+{
+    paper.Print_Contour(frame_.record, box.left, box.top, box.width, box.height, settings_.interval,
+                        !settings_.is_in_percent, settings_.unit, to_i16(number(settings_.marks)),
+                        to_i16(number(settings_.resolution)), to_i16(number(settings_.colors)), PlotCaption(),
+                        with_frame);
+}
+
+std::int16_t ZvPlot2DC::PrintPlot_THN(double left, double top, double width, double height, std::string& winfo)
+{
+    return print_checked([&](PrintPanel& paper) {
+        paper.Print_Contour_THN(frame_.record, left, top, width, height, settings_.interval, !settings_.is_in_percent,
+                                to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
+                                to_i16(number(settings_.colors)), PlotCaption(), winfo, true);
+    });
+}
+
+std::vector<StoredProperty> const& ZvPlot2DC::stored_properties() const
+{
+    return stored_properties_of_2dc();
+}
+
+namespace
+{
+
+std::vector<Member> contour_rows()
+{
+    using Z = ZvPlot2DC;
+    constexpr auto both = MemberKind::GetPut;
+    return {
+        accessors<Z, Z, double, double, &Z::Interval, &Z::Interval>(
+            "Interval", both, "The distance of the lines given in percent of the mean value."),
+        accessors<Z, Z, BooleanWord, BooleanWord, &Z::IntervalInPercent, &Z::IntervalInPercent>(
+            "IntervalInPercent", both, "Interval is a percentage."),
+        accessors<Z, Z, std::string, std::string, &Z::MeasurementUnit, &Z::MeasurementUnit>(
+            "MeasurementUnit", both, "Unit shown with Interval."),
+        accessors<Z, Z, ContourMarks, ContourMarks, &Z::marksites, &Z::marksites>(
+            "marksites", both, "Mark the exact or the converted sites on plot.")
+            .of_type(Type::Enumeration, &marks_enumeration()),
+        accessors<Z, Z, ContourResolution, ContourResolution, &Z::Resolution, &Z::Resolution>("Resolution", both,
+                                                                                              "Fineness of the raster.")
+            .of_type(Type::Enumeration, &resolution_enumeration()),
+        accessors<Z, Z, ContourColors, ContourColors, &Z::PlotColored, &Z::PlotColored>(
+            "PlotColored", both, "Draw colored or black/white plot.")
+            .of_type(Type::Enumeration, &colors_enumeration()),
+        color_row<Z, Z, &Z::MeanCurveColor, &Z::MeanCurveColor>("MeanCurveColor", "Colour of the mean line."),
+        color_row<Z, Z, &Z::UpperCurveColor, &Z::UpperCurveColor>("UpperCurveColor", "Colour of lines above the mean."),
+        color_row<Z, Z, &Z::LowerCurveColor, &Z::LowerCurveColor>("LowerCurveColor", "Colour of lines below the mean."),
+    };
+}
+
+} // namespace
+
+Interface const& ZvPlot2DC::interface_table()
+{
+    using Z = ZvPlot2DC;
+    auto const box_and_text = [] {
+        auto arguments = print_box();
+        arguments.push_back(by_reference("winfo"));
+        return arguments;
+    };
+    static Interface const table{
+        "ZvPlot2DC", "Contour plot of one panel.",
+        join({
+            platform_rows<Z>(),
+            statistics_rows<Z>(),
+            size_rows<Z>(),
+            contour_rows(),
+            {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
+            limit_rows<Z>(),
+            {set_panel_data_row<Z>()},
+            legend_and_caption_rows<Z>(),
+            {print_plot_row<Z>(),
+             method<Z, &Z::PrintPlot_THN>("PrintPlot_THN", box_and_text(), "Prints the plot in its compact form.")},
+            print_block_rows<Z>(),
+            read_out_rows<Z>(),
+            interval_color_rows<Z>(),
+            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
+        }),
+        control_events()};
+    return table;
+}
+
+} // namespace zendara

@@ -1,0 +1,110 @@
+#include "controls/zv_plot_3db.hpp"
+
+#include "controls/stored_properties.hpp"
+#include "dialogs/frm_plot_opt_3d.hpp"
+
+namespace zendara
+{
+
+ZvPlot3DB::ZvPlot3DB(Platform& platform)
+    : frame_(*this, platform, "ZvPlot3DB"),
+      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw(); }); }}),
+      rotation_(frame_, plot_frame_, angles_, [this] { draw_preview(); })
+{
+    plot_frame_.forward_events();
+    rotation_.answer_mouse();
+    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+}
+
+void ZvPlot3DB::InitProperties()
+{
+    start_frame();
+    bars_ = {};
+    angles_ = {};
+}
+
+void ZvPlot3DB::fill_legend()
+{
+    frame_.record.scale_colored(plot_frame_.column.scalCol, plot_frame_.column.ScaleValue);
+}
+
+void ZvPlot3DB::draw()
+{
+    plot_frame_.show_position(angles_.rotation, angles_.inclination);
+    draw_bars();
+}
+
+// A drag draws all bars: there is no coarser form of them.
+void ZvPlot3DB::draw_preview()
+{
+    plot_frame_.draw_position(angles_.rotation, angles_.inclination);
+    draw_bars();
+}
+
+void ZvPlot3DB::draw_bars()
+{
+    frame_.record.D2BeamPlot(plot_frame_.view.PLOTA.surface(), bars_.width, bars_.depth, bars_.scale, angles_.rotation,
+                             angles_.inclination, 0, 0, 0, 0, 0, 0);
+}
+
+// The colour around the plot is no option of this control.
+void ZvPlot3DB::ShowPlotOption()
+{
+    frmPlotOpt2DB dialog(frame_.platform());
+    dialog.SetValues(frame_.record, bars_.width, bars_.depth, angles_.rotation, angles_.inclination, bars_.scale);
+    answer_options(dialog, [&] {
+        BeamWidth(dialog.GetResx());
+        BeamHeight(dialog.GetResy());
+        GridRotation(dialog.GetAlp());
+        GridInclination(dialog.GetThet());
+        BeamScale(dialog.GetPlotSccale());
+    });
+}
+
+void ZvPlot3DB::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+{
+    paper.Print_2DBPlot(frame_.record, box.left, box.top, box.width, box.height, bars_.width, bars_.depth, bars_.scale,
+                        angles_.rotation, angles_.inclination, PlotCaption(), with_frame);
+}
+
+std::vector<StoredProperty> const& ZvPlot3DB::stored_properties() const
+{
+    return stored_properties_of_3db();
+}
+
+Interface const& ZvPlot3DB::interface_table()
+{
+    using Z = ZvPlot3DB;
+    using Degrees = std::int16_t;
+    constexpr auto both = MemberKind::GetPut;
+    static Interface const table{
+        "ZvPlot3DB", "Bar plot of one panel.",
+        join({
+            platform_rows<Z>(),
+            statistics_rows<Z>(),
+            size_rows<Z>(),
+            {accessors<Z, Z, double, double, &Z::BeamWidth, &Z::BeamWidth>("BeamWidth", both,
+                                                                           "Size of a bar along x in mm."),
+             accessors<Z, Z, double, double, &Z::BeamHeight, &Z::BeamHeight>("BeamHeight", both,
+                                                                             "Size of a bar along y in mm."),
+             accessors<Z, Z, double, double, &Z::BeamScale, &Z::BeamScale>("BeamScale", both,
+                                                                           "Height of a bar per unit of the value."),
+             accessors<Z, Z, Degrees, Degrees, &Z::GridRotation, &Z::GridRotation>("GridRotation", both,
+                                                                                   "Rotation of the plot in degrees."),
+             accessors<Z, Z, Degrees, Degrees, &Z::GridInclination, &Z::GridInclination>(
+                 "GridInclination", both, "Inclination of the plot in degrees."),
+             enable_rotation_row<Z>(), plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
+            limit_rows<Z>(),
+            {set_panel_data_row<Z>()},
+            legend_and_caption_rows<Z>(),
+            {print_plot_row<Z>()},
+            print_block_rows<Z>(),
+            read_out_rows<Z>(),
+            interval_color_rows<Z>(),
+            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
+        }),
+        control_events()};
+    return table;
+}
+
+} // namespace zendara
