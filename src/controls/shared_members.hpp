@@ -187,6 +187,17 @@ protected:
             PanelSizeX(start_width);
     }
 
+    /// Plot of the controls that keep no picture: 1 without data, otherwise draws and answers 0.
+    std::int16_t plot_at_once()
+    {
+        if (frame().record.GetNop() == 0)
+            return 1;
+        frame().plot_requested = true;
+        fill_empty_sizes();
+        self().draw();
+        return 0;
+    }
+
     /// Runs Plot where one is on the screen, with a new picture.
     void plot_again()
     {

@@ -73,12 +73,7 @@ void ZvHistogram::GaussCurveColor(Color color)
 
 std::int16_t ZvHistogram::Plot()
 {
-    if (frame_.record.GetNop() == 0)
-        return 1;
-    frame_.plot_requested = true;
-    fill_empty_sizes();
-    draw();
-    return 0;
+    return plot_at_once();
 }
 
 void ZvHistogram::draw()

@@ -32,6 +32,19 @@ private:
     Window& window_;
 };
 
+/// A button that does not answer the user, until the end of the scope.
+class DisabledScope
+{
+public:
+    explicit DisabledScope(Button& button) : button_(button) { button_.Enabled(false); }
+    DisabledScope(DisabledScope const&) = delete;
+    DisabledScope& operator=(DisabledScope const&) = delete;
+    ~DisabledScope() { button_.Enabled(true); }
+
+private:
+    Button& button_;
+};
+
 /// A run for the screen takes the whole picture: what it is told of a rectangle is nothing.
 struct NoBox {
     double left = 0, top = 0, width = 0, height = 0;
@@ -210,12 +223,7 @@ void ZvLineScan::angle_key_pressed(std::int16_t key)
 
 std::int16_t ZvLineScan::Plot()
 {
-    if (frame_.record.GetNop() == 0)
-        return 1;
-    frame_.plot_requested = true;
-    fill_empty_sizes();
-    draw();
-    return 0;
+    return plot_at_once();
 }
 
 void ZvLineScan::draw()
@@ -332,9 +340,8 @@ void ZvLineScan::ShowPlotOption()
         return;
     ShowSites(dialog.GetMarkeSites() ? Sites::MarkSites : Sites::HideSites);
     take_line(dialog);
-    view_.btnoptions.Enabled(false);
+    DisabledScope const no_second_dialog(view_.btnoptions);
     draw();
-    view_.btnoptions.Enabled(true);
 }
 
 void ZvLineScan::take_line(frmPlotOpt1D& dialog)

@@ -1,5 +1,6 @@
 #include "controls/zv_plot_2d.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/resolution_limit.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_2d.hpp"
@@ -72,27 +73,13 @@ std::vector<StoredProperty> const& ZvPlot2D::stored_properties() const
 Interface const& ZvPlot2D::interface_table()
 {
     using Z = ZvPlot2D;
-    static Interface const table{
-        "ZvPlot2D", "Colour map of one panel.",
-        join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            raster_rows<Z>(),
-            {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>(), method<Z, &Z::PrintGridPlot>("PrintGridPlot",
-                                                               {by_reference("left"), by_reference("top"),
-                                                                by_reference("width"), by_reference("height")},
-                                                               "Prints the site numbers.")},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            interval_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-        }),
-        control_events()};
+    std::vector<Argument> const box = {by_reference("left"), by_reference("top"), by_reference("width"),
+                                       by_reference("height")};
+    static Interface const table =
+        plot_interface<Z>("ZvPlot2D", "Colour map of one panel.",
+                          {raster_rows<Z>(),
+                           interval_color_rows<Z>(),
+                           {method<Z, &Z::PrintGridPlot>("PrintGridPlot", box, "Prints the site numbers.")}});
     return table;
 }
 

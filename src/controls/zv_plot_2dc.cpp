@@ -1,5 +1,6 @@
 #include "controls/zv_plot_2dc.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_2dc.hpp"
 #include "support/checked.hpp"
@@ -203,30 +204,13 @@ std::vector<Member> contour_rows()
 Interface const& ZvPlot2DC::interface_table()
 {
     using Z = ZvPlot2DC;
-    auto const box_and_text = [] {
-        auto arguments = print_box();
-        arguments.push_back(by_reference("winfo"));
-        return arguments;
-    };
-    static Interface const table{
+    auto box_and_text = print_box();
+    box_and_text.push_back(by_reference("winfo"));
+    static Interface const table = plot_interface<Z>(
         "ZvPlot2DC", "Contour plot of one panel.",
-        join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            contour_rows(),
-            {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>(),
-             method<Z, &Z::PrintPlot_THN>("PrintPlot_THN", box_and_text(), "Prints the plot in its compact form.")},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            interval_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-        }),
-        control_events()};
+        {contour_rows(),
+         interval_color_rows<Z>(),
+         {method<Z, &Z::PrintPlot_THN>("PrintPlot_THN", box_and_text, "Prints the plot in its compact form.")}});
     return table;
 }
 

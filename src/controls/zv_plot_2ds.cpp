@@ -1,5 +1,6 @@
 #include "controls/zv_plot_2ds.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/resolution_limit.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_2d.hpp"
@@ -66,24 +67,9 @@ std::vector<StoredProperty> const& ZvPlot2DS::stored_properties() const
 Interface const& ZvPlot2DS::interface_table()
 {
     using Z = ZvPlot2DS;
-    static Interface const table{"ZvPlot2DS", "Sigma map of one panel.",
-                                 join({
-                                     platform_rows<Z>(),
-                                     statistics_rows<Z>(),
-                                     size_rows<Z>(),
-                                     raster_rows<Z>(),
-                                     {sigma_range_row<Z>()},
-                                     {plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
-                                     limit_rows<Z>(),
-                                     {set_panel_data_row<Z>()},
-                                     legend_and_caption_rows<Z>(),
-                                     {print_plot_row<Z>()},
-                                     print_block_rows<Z>(),
-                                     read_out_rows<Z>(),
-                                     sigma_color_rows<Z>(),
-                                     {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-                                 }),
-                                 control_events()};
+    static Interface const table =
+        plot_interface<Z>("ZvPlot2DS", "Sigma map of one panel.",
+                          {join({raster_rows<Z>(), {sigma_range_row<Z>()}}), sigma_color_rows<Z>()});
     return table;
 }
 

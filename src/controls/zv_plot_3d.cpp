@@ -1,5 +1,6 @@
 #include "controls/zv_plot_3d.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_3d.hpp"
 
@@ -86,27 +87,12 @@ std::vector<StoredProperty> const& ZvPlot3D::stored_properties() const
 Interface const& ZvPlot3D::interface_table()
 {
     using Z = ZvPlot3D;
-    static Interface const table{
+    auto const type_row = accessors<Z, Z, PlotTypeEnum, PlotTypeEnum, &Z::PlotType, &Z::PlotType>(
+                              "PlotType", MemberKind::GetPut, "What the cells look like.")
+                              .of_type(Type::Enumeration, &plot_type_enumeration());
+    static Interface const table = plot_interface<Z>(
         "ZvPlot3D", "Surface plot of one panel.",
-        join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            surface_view_rows<Z>(),
-            {accessors<Z, Z, PlotTypeEnum, PlotTypeEnum, &Z::PlotType, &Z::PlotType>("PlotType", MemberKind::GetPut,
-                                                                                     "What the cells look like.")
-                 .of_type(Type::Enumeration, &plot_type_enumeration()),
-             enable_rotation_row<Z>(), plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>()},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            interval_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-        }),
-        control_events()};
+        {join({surface_view_rows<Z>(), {type_row, enable_rotation_row<Z>()}}), interval_color_rows<Z>()});
     return table;
 }
 

@@ -1,5 +1,6 @@
 #include "controls/zv_plot_3db.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_3d.hpp"
 
@@ -77,33 +78,19 @@ Interface const& ZvPlot3DB::interface_table()
     using Z = ZvPlot3DB;
     using Degrees = std::int16_t;
     constexpr auto both = MemberKind::GetPut;
-    static Interface const table{
-        "ZvPlot3DB", "Bar plot of one panel.",
-        join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            {accessors<Z, Z, double, double, &Z::BeamWidth, &Z::BeamWidth>("BeamWidth", both,
-                                                                           "Size of a bar along x in mm."),
-             accessors<Z, Z, double, double, &Z::BeamHeight, &Z::BeamHeight>("BeamHeight", both,
-                                                                             "Size of a bar along y in mm."),
-             accessors<Z, Z, double, double, &Z::BeamScale, &Z::BeamScale>("BeamScale", both,
-                                                                           "Height of a bar per unit of the value."),
-             accessors<Z, Z, Degrees, Degrees, &Z::GridRotation, &Z::GridRotation>("GridRotation", both,
-                                                                                   "Rotation of the plot in degrees."),
-             accessors<Z, Z, Degrees, Degrees, &Z::GridInclination, &Z::GridInclination>(
-                 "GridInclination", both, "Inclination of the plot in degrees."),
-             enable_rotation_row<Z>(), plot_row<Z>(), back_color_row<Z>(), show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>()},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            interval_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-        }),
-        control_events()};
+    std::vector<Member> settings = {accessors<Z, Z, double, double, &Z::BeamWidth, &Z::BeamWidth>(
+                                        "BeamWidth", both, "Size of a bar along x in mm."),
+                                    accessors<Z, Z, double, double, &Z::BeamHeight, &Z::BeamHeight>(
+                                        "BeamHeight", both, "Size of a bar along y in mm."),
+                                    accessors<Z, Z, double, double, &Z::BeamScale, &Z::BeamScale>(
+                                        "BeamScale", both, "Height of a bar per unit of the value."),
+                                    accessors<Z, Z, Degrees, Degrees, &Z::GridRotation, &Z::GridRotation>(
+                                        "GridRotation", both, "Rotation of the plot in degrees."),
+                                    accessors<Z, Z, Degrees, Degrees, &Z::GridInclination, &Z::GridInclination>(
+                                        "GridInclination", both, "Inclination of the plot in degrees."),
+                                    enable_rotation_row<Z>()};
+    static Interface const table =
+        plot_interface<Z>("ZvPlot3DB", "Bar plot of one panel.", {std::move(settings), interval_color_rows<Z>()});
     return table;
 }
 

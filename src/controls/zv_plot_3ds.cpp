@@ -1,5 +1,6 @@
 #include "controls/zv_plot_3ds.hpp"
 
+#include "controls/plot_interface.hpp"
 #include "controls/stored_properties.hpp"
 #include "dialogs/frm_plot_opt_3d.hpp"
 
@@ -83,27 +84,12 @@ std::vector<StoredProperty> const& ZvPlot3DS::stored_properties() const
 Interface const& ZvPlot3DS::interface_table()
 {
     using Z = ZvPlot3DS;
-    static Interface const table{
+    auto const rotation_row = accessors<Z, Z, std::int16_t, std::int16_t, &Z::PanelRotation, &Z::PanelRotation>(
+        "PanelRotation", MemberKind::GetPut, "Rotation of the panel's figure in degrees.");
+    static Interface const table = plot_interface<Z>(
         "ZvPlot3DS", "Sigma surface of one panel.",
-        join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            surface_view_rows<Z>(),
-            {accessors<Z, Z, std::int16_t, std::int16_t, &Z::PanelRotation, &Z::PanelRotation>(
-                 "PanelRotation", MemberKind::GetPut, "Rotation of the panel's figure in degrees."),
-             sigma_range_row<Z>(), enable_rotation_row<Z>(), plot_row<Z>(), back_color_row<Z>(),
-             show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>()},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            sigma_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(), set_data_file_row<Z>()},
-        }),
-        control_events()};
+        {join({surface_view_rows<Z>(), {rotation_row, sigma_range_row<Z>(), enable_rotation_row<Z>()}}),
+         sigma_color_rows<Z>()});
     return table;
 }
 

@@ -55,8 +55,7 @@ OptionRow const surface_plot_types[3] = {{2, "Wireframe"}, {1, "Hidden Wireframe
 
 std::int16_t plot_type_of_index(int index)
 {
-    bool const is_known = index >= 0 && static_cast<std::size_t>(index) < plot_types.size();
-    return is_known ? plot_types[static_cast<std::size_t>(index)] : plot_types[0];
+    return plot_types.at(static_cast<std::size_t>(index));
 }
 
 int index_of_plot_type(std::int16_t plot_type)
@@ -90,8 +89,15 @@ void frmPlotOpt3d::SetValues(panel& wafo, double Xres, double yres, std::int16_t
     tresy.open(yres);
     view.open(al, the);
     tscale.open(d3scal);
+    opening_plot_type_ = plotop;
     optPlot.choose(index_of_plot_type(plotop));
     ground.open(BackC);
+}
+
+std::int16_t frmPlotOpt3d::GetPlotType()
+{
+    int const index = optPlot.chosen();
+    return index < 0 ? opening_plot_type_ : plot_type_of_index(index);
 }
 
 Interface const& frmPlotOpt3d::host_interface() const

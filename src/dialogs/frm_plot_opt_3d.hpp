@@ -8,7 +8,7 @@ namespace zendara
 
 /// The buttons of a surface's plot type, and how their indices stand for it: 0 gives 1, 1 gives 3, 2 gives 2.
 extern OptionRow const surface_plot_types[3];
-std::int16_t plot_type_of_index(int index);
+std::int16_t plot_type_of_index(int index); // of one of those three
 int index_of_plot_type(std::int16_t plot_type);
 
 /// The option dialog of the surface plot.
@@ -35,10 +35,14 @@ public:
     double GetResx() const { return tresx.value(); }
     double GetResy() const { return tresy.value(); }
     double GetPlotSccale() const { return tscale.value(); }
-    std::int16_t GetPlotType() { return plot_type_of_index(optPlot.chosen()); }
+    /// The type of the button that is on; where none is, the one at opening.
+    std::int16_t GetPlotType();
     Color GetBackColor() const { return ground.color(); }
 
     Interface const& host_interface() const override;
+
+private:
+    std::int16_t opening_plot_type_ = 1;
 };
 
 /// The option dialog of the sigma surface. OK does not ask for the sigma range.

@@ -118,8 +118,8 @@ TEST(PrintMembersOfZvPlot2DC, PassTheReverseOfIntervalInPercent)
         std::string same_info = info;
         EXPECT_EQ(on.control.PrintPlot_THN(left, top, width, height, info), 0);
         EXPECT_EQ(on.printed(), on.by_hand([&](PrintPanel& paper) {
-            paper.Print_Contour_THN(on.control.record(), left, top, width, height, 3, !is_in_percent, 3, 2, 2,
-                                    "Panel", same_info, true);
+            paper.Print_Contour_THN(on.control.record(), left, top, width, height, 3, !is_in_percent, 3, 2, 2, "Panel",
+                                    same_info, true);
         }));
         EXPECT_EQ(info, std::string(30, 'i')); // comes back as it was written
     }
@@ -214,7 +214,7 @@ TEST(PrintMembersOfZvLineScan, PassBothFormsOfTheLine)
     on.control.SetLineOrAngle(2, 0, 0, 0, 13, 14, 15, 16);
     on.control.ShowSites(Sites::MarkSites);
     on.control.PlotCaption("Film");
-    for (std::int16_t const form : {1, 2}) {
+    for (std::int16_t const form : std::array<std::int16_t, 2>{1, 2}) {
         on.control.PlotType(static_cast<PlotTypeEnumLineScan>(form));
         EXPECT_EQ(on.control.PrintPlot(left, top, width, height, on.framed), 0);
         EXPECT_EQ(on.printed(), on.by_hand([&](PrintPanel& paper) {
@@ -233,8 +233,8 @@ namespace
 template <class C> struct PrintingControl : testing::Test {
     Printing<C> on;
 };
-using AllControls = testing::Types<ZvPlot2D, ZvPlot2DS, ZvPlot2DC, ZvPlot2DV, ZvPlot3D, ZvPlot3DS, ZvPlot3DB,
-                                   ZvHistogram, ZvLineScan>;
+using AllControls =
+    testing::Types<ZvPlot2D, ZvPlot2DS, ZvPlot2DC, ZvPlot2DV, ZvPlot3D, ZvPlot3DS, ZvPlot3DB, ZvHistogram, ZvLineScan>;
 TYPED_TEST_SUITE(PrintingControl, AllControls);
 
 template <class C> struct ControlWithIntervals : testing::Test {

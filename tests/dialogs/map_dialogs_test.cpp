@@ -196,7 +196,7 @@ TEST_F(SigmaDialog, ALimitItselfFails)
 TEST_F(SigmaDialog, TheSigmaRangeIsFollowedByASignInTheFaceSymbol)
 {
     auto& sign = child<Label>("lblSigma");
-    EXPECT_EQ(sign.Font().name, "Symbol");
+    EXPECT_EQ(sign.Font().Name, "Symbol");
     EXPECT_EQ(sign.caption(), "s");
     EXPECT_EQ(child<Label>("lblSSigma").caption(), "Sigma Range: ");
 }

@@ -122,6 +122,14 @@ TEST_F(SurfaceDialog, ThePlotTypeFollowsTheIndexOfTheButton)
     EXPECT_TRUE(child<OptionButton>("optPlot", 1).Value());
 }
 
+TEST_F(SurfaceDialog, APlotTypeWithoutAButtonComesBackAsItWas)
+{
+    dialog.SetValues(*record, 5, 5, 40, 35, 40, 9, QBColor(15));
+    EXPECT_EQ(dialog.GetPlotType(), 9);
+    child<OptionButton>("optPlot", 2).Value(true);
+    EXPECT_EQ(dialog.GetPlotType(), 2);
+}
+
 TEST_F(SigmaSurfaceDialog, OkDoesNotAskForTheSigmaRange)
 {
     open();

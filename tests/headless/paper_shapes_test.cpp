@@ -136,6 +136,62 @@ TEST_F(Paper, ALargeFieldKeepsItsEdgesAndItsFileStaysSmall)
     EXPECT_NEAR(reach.bottom, 640 * 10.9 / 6, 1);
 }
 
+TEST_F(Paper, AThinFrameAroundAFieldShowsOnAllSidesAtAnyResolution)
+{
+    ZENDARA_NEEDS_PAGE_TOOLS();
+    PaperSurface page(file());
+    page.ScaleMode(scale_pixels);
+    Field const field;
+    page.Box(field.left - 1, field.top - 1, field.x(field.columns), field.y(field.rows), 0);
+    use_solid_fill(page, white, pen_none);
+    draw(page, field);
+    page.EndDoc();
+    for (int const dots_per_inch : {72, 96, 300}) {
+        auto const image = shown(dots_per_inch);
+        auto const reach = reach_of(image);
+        EXPECT_NEAR(reach.left, field.left * dots_per_inch / 600.0, 1.5);
+        EXPECT_NEAR(reach.top, field.top * dots_per_inch / 600.0, 1.5);
+        EXPECT_NEAR(reach.right, field.x(field.columns) * dots_per_inch / 600.0, 1.5);
+        EXPECT_NEAR(reach.bottom, field.y(field.rows) * dots_per_inch / 600.0, 1.5);
+    }
+}
+
+TEST_F(Paper, ABoxThatIsNoFrameOfTheFieldStaysBehindIt)
+{
+    ZENDARA_NEEDS_PAGE_TOOLS();
+    PaperSurface page(file());
+    page.ScaleMode(scale_pixels);
+    page.DrawWidth = 20;
+    page.Box(1000, 1000, 2000, 2000, static_cast<Color>(red));
+    use_solid_fill(page, blue, pen_none);
+    page.Polygon(box(500, 500, 1500, 2500));
+    page.Polygon(box(1500, 500, 2500, 2500));
+    page.EndDoc();
+    auto const image = shown(60);
+    EXPECT_TRUE(shows(image, 100, 150, blue));
+}
+
+TEST_F(Paper, LinesOfOnePenGoOnAfterLinesOfAnother)
+{
+    ZENDARA_NEEDS_PAGE_TOOLS();
+    PaperSurface page(file());
+    page.ScaleMode(scale_pixels);
+    page.DrawWidth = 40;
+    page.Line(1000, 1000, 2000, 1000, static_cast<Color>(red));
+    page.LineTo(2000, 2000, static_cast<Color>(red));
+    page.LineTo(1500, 2000, static_cast<Color>(blue));
+    page.Line(1000, 1500, 3000, 1500, static_cast<Color>(red)); // crosses the first path
+    page.Line(2500, 1000, 2500, 2000, static_cast<Color>(blue));
+    page.EndDoc();
+    auto const image = shown(60);
+    EXPECT_TRUE(shows(image, 150, 100, red));
+    EXPECT_TRUE(shows(image, 200, 130, red));
+    EXPECT_TRUE(shows(image, 170, 200, blue));
+    EXPECT_TRUE(shows(image, 230, 150, red));
+    EXPECT_TRUE(shows(image, 250, 150, blue)) << "the last one lies on top";
+    EXPECT_TRUE(shows(image, 150, 125, white)) << "a path is no area";
+}
+
 TEST_F(Paper, CellsOverEachOtherShowTheLastOne)
 {
     ZENDARA_NEEDS_PAGE_TOOLS();

@@ -146,3 +146,16 @@ TEST(ObjectCast, LooksBehindTheObject)
     EXPECT_EQ(object_cast<Book>(&shelf), nullptr);
     EXPECT_EQ(object_cast<Book>(nullptr), nullptr);
 }
+
+TEST(Value, AListOfObjectsConvertsBackAndNothingIsAnEmptyOne)
+{
+    Lamp lamp;
+    Value const list = ObjectList{&lamp, nullptr};
+    EXPECT_EQ(from_value<ObjectList>(list), (ObjectList{&lamp, nullptr}));
+    EXPECT_TRUE(from_value<ObjectList>(Empty{}).empty());
+    EXPECT_TRUE(from_value<ObjectList>(HostArray<double>(0, {})).empty());
+    EXPECT_THROW(from_value<ObjectList>(array), Failure);
+    EXPECT_THROW(from_value<ObjectList>(std::string("lamp")), Failure);
+    EXPECT_THROW(to_double(list), Failure);
+    EXPECT_THROW(to_text(list), Failure);
+}

@@ -101,6 +101,7 @@ private:
     void end_run();
     void end_lines();
     void show_run_as_image();
+    void draw_frame_again(PolygonRun::Area const& place);
     void trace_box(double x1, double y1, double x2, double y2);
     void trace_polygon(std::array<DevicePoint, 4> const& corners);
     void paint_path(Look const& look);
@@ -121,6 +122,12 @@ private:
         int count = 0;
         double end_x = 0, end_y = 0; // device pixels
     };
+    /// The outlined box that was drawn last, if only polygons have followed.
+    struct Frame {
+        double left, top, right, bottom; // device pixels
+        OutlinePen pen;
+    };
+    std::optional<Frame> frame_;
     Lines lines_; // none while run_ holds polygons
 };
 
@@ -162,6 +169,7 @@ void PaperSurface::Document::end_run()
         }
     }
     run_.clear();
+    frame_.reset();
 }
 
 void PaperSurface::Document::show_run_as_image()
@@ -172,6 +180,19 @@ void PaperSurface::Document::show_run_as_image()
     auto const& place = picture->place;
     document_.show_image(picture->image, twips_x(place.left), twips_y(place.top), twips_x(place.right - place.left),
                          twips_y(place.bottom - place.top));
+    draw_frame_again(place);
+}
+
+// Viewers let an image begin and end with their own pixels, which hides the thin frame drawn around it before.
+void PaperSurface::Document::draw_frame_again(PolygonRun::Area const& place)
+{
+    constexpr double widest_gap = 3; // device pixels
+    auto const is_beside = [](double frame, double edge) { return std::abs(frame - edge) <= widest_gap; };
+    if (!frame_ || !is_beside(frame_->left, place.left) || !is_beside(frame_->top, place.top) ||
+        !is_beside(frame_->right, place.right) || !is_beside(frame_->bottom, place.bottom))
+        return;
+    trace_box(frame_->left, frame_->top, frame_->right, frame_->bottom);
+    stroke_path(frame_->pen);
 }
 
 // Lines of one pen are gathered into one path: contours are made of very many short ones.
@@ -203,6 +224,8 @@ void PaperSurface::Document::draw_box(double x1, double y1, double x2, double y2
     end_run();
     trace_box(x1, y1, x2, y2);
     paint_path(look);
+    if (look.pen)
+        frame_ = Frame{std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2), *look.pen};
 }
 
 void PaperSurface::Document::draw_circle(double x, double y, double radius, Look const& look)
@@ -234,6 +257,7 @@ void PaperSurface::Document::fill_text_ground(FontFace const& font, std::string_
 void PaperSurface::Document::cover_page(std::uint32_t pixel)
 {
     run_.clear();
+    frame_.reset();
     lines_ = {};
     cairo_new_path(canvas());
     document_.set_color(pixel);
