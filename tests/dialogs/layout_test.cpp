@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cctype>
 #include <map>
 
@@ -106,12 +105,10 @@ TEST_P(EveryLayout, NoLabelIsCut)
 {
     for (auto const& window : windows)
         for_each_shown(*window, [&](Child& child) {
-            if (!shows_text(child))
+            bool const is_one_line = child.caption().find('\n') == std::string::npos; // others size themselves
+            if (!shows_text(child) || child.caption().empty() || !is_one_line)
                 return;
             auto const text = platform.text_extent(child.Font(), child.caption());
-            auto const lines = std::count(child.caption().begin(), child.caption().end(), '\n');
-            if (lines > 0)
-                return; // the about box, whose label sizes itself
             EXPECT_LE(text.width, child.Width() + tolerance) << window->Name() << ' ' << name_of(child);
             EXPECT_LE(text.height, child.Height() + tolerance) << window->Name() << ' ' << name_of(child);
         });
