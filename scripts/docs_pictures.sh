@@ -42,4 +42,5 @@ for control in $("$zendara" controls | awk 'NF {print $1}'); do
     "$zendara" plot "$data/film49.csv" --control "$control" --size 300x200 --pixels 720x480 \
         "${caption[@]}" $(settings_of "$control") -o "docs/pictures/$control.png"
 done
+(cd docs/pictures && ../../"$zendara" run ../../examples/dialog_pictures.json)
 ls -1 docs/pictures
