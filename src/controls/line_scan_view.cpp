@@ -59,7 +59,8 @@ LineScanView::LineScanView(Window& window)
       lblY(Plot, "lblY", 0, quarters + 1), plus(Plot, "plus"), FNLabel(window, "FNLabel", 0, 2),
       by_angle(FNLabel(0), {"FNPic", "Line1", "Line2", "Line3", "picplus"}, {15, picture_top, 82, picture_height}),
       Frame1(FNLabel(0), "Frame1"), AngleValue(Frame1, "AngleValue"), UpDown1(Frame1, "UpDown1"),
-      Label1(Frame1, "Label1"), by_points(FNLabel(1), {"Picture1", "Line6", "Line4", "Line5", "Picture2"}, {20, picture_top, 118, picture_height}),
+      Label1(Frame1, "Label1"), by_points(FNLabel(1), {"Picture1", "Line6", "Line4", "Line5", "Picture2"},
+                                          {20, picture_top, 118, picture_height}),
       btnoptions(window, "btnoptions"), copypic(window, "copypic"), window_(window)
 {
     build_curve_area();

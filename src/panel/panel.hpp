@@ -288,13 +288,13 @@ public:
     std::function<void(std::string_view, int, std::string_view)> show_message;
 
 private:
-    friend class BucketSearch;      // the plain and the fast form of Interpolation
-    friend class SitePlot;          // what the plots of subsystem render share
+    friend class BucketSearch; // the plain and the fast form of Interpolation
+    friend class SitePlot;     // what the plot routines share
     friend class HistogramPlot;
     friend struct BucketTableProbe; // lets tests look at the table
 
     static double GaussNorm(double z); // standard normal density
-    std::int16_t site_count() const; // nop_ as a 16-bit counter takes it
+    std::int16_t site_count() const;   // nop_ as a 16-bit counter takes it
     void store_site(std::int32_t site, double x, double y, double Z);
     bool BuildSiteBuckets();
     void lay_buckets_out(std::span<std::int16_t const> cell_i, std::span<std::int16_t const> cell_j);
