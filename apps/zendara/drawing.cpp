@@ -45,12 +45,10 @@ void draw(LoadedControl& loaded, std::string const& data_file)
         throw UserError(data_file + ": there is nothing to plot", Exit::NothingToPlot);
 }
 
-void tell_fitted_panel(LoadedControl const& loaded)
+void tell_panel_note(LoadedControl const& loaded)
 {
-    if (loaded.is_panel_fitted())
-        std::fprintf(stderr,
-                     "zendara: note: the panel is taken as %g x %g mm, which holds all sites; --size tells it\n",
-                     loaded.panel_mm().width, loaded.panel_mm().height);
+    if (!loaded.panel_note().empty())
+        std::fprintf(stderr, "zendara: %s\n", loaded.panel_note().c_str());
 }
 
 } // namespace zendara::program

@@ -24,7 +24,7 @@ void tell_messages(HeadlessPlatform& platform);
 /// @throws UserError  when there is nothing to plot
 void draw(LoadedControl& loaded, std::string const& data_file);
 
-/// Tells on standard error that the program has chosen the panel's size, where it has.
-void tell_fitted_panel(LoadedControl const& loaded);
+/// Tells on standard error what the user should know of the panel's size.
+void tell_panel_note(LoadedControl const& loaded);
 
 } // namespace zendara::program

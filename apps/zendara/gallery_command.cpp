@@ -63,7 +63,7 @@ Exit gallery(GalleryOptions const& options)
         set_limits(loaded.control(), options.limits);
         draw(loaded, options.data.file);
         if (i == 0) {
-            tell_fitted_panel(loaded);
+            tell_panel_note(loaded);
             gallery.statistics = statistics_of(loaded, options.data.file);
             gallery.panel_mm = loaded.panel_mm();
             make_folder(folder);

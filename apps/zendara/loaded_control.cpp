@@ -49,7 +49,8 @@ std::string text_of(Size const& size)
     return text;
 }
 
-void warn_of_sites_beyond(Size const& panel_mm, SiteData const& sites, std::string const& file)
+/// A warning, or nothing when all sites lie on the panel.
+std::string note_on_sites_beyond(Size const& panel_mm, SiteData const& sites, std::string const& file)
 {
     auto const x = sites.x.values();
     auto const y = sites.y.values();
@@ -57,10 +58,10 @@ void warn_of_sites_beyond(Size const& panel_mm, SiteData const& sites, std::stri
     for (std::size_t i = 0; i < x.size(); ++i)
         if (std::abs(x[i]) > panel_mm.width / 2 || std::abs(y[i]) > panel_mm.height / 2)
             ++beyond;
-    if (beyond > 0)
-        std::fprintf(stderr,
-                     "zendara: warning: %s: %zu of %zu sites lie beyond the panel of %s; tell its size by --size\n",
-                     file.c_str(), beyond, x.size(), text_of(panel_mm).c_str());
+    if (beyond == 0)
+        return {};
+    return "warning: " + file + ": " + std::to_string(beyond) + " of " + std::to_string(x.size()) +
+           " sites lie beyond the panel of " + text_of(panel_mm) + "; tell its size by --size";
 }
 
 /// The smallest panel about its centre that holds all sites.
@@ -137,7 +138,9 @@ LoadedControl::LoadedControl(std::string const& control, Size const& pixels, Dat
                         ": the sites cannot be taken: a value is too large, or a site lies far beyond the "
                         "panel of " +
                         text_of(panel_mm_) + " (--size)");
-    warn_of_sites_beyond(panel_mm_, sites, data.file);
+    panel_note_ = is_panel_fitted_
+                      ? "note: the panel is taken as " + text_of(panel_mm_) + ", which holds all sites; --size tells it"
+                      : note_on_sites_beyond(panel_mm_, sites, data.file);
 }
 
 // Without a size from the user, the usual panel is taken as long as it holds all sites.

@@ -23,8 +23,8 @@ public:
     Control& control() { return *control_; }
     std::size_t site_count() const { return site_count_; }
     Size const& panel_mm() const { return panel_mm_; }
-    /// Whether the panel is larger than usual because its sites ask for it.
-    bool is_panel_fitted() const { return is_panel_fitted_; }
+    /// What the user should know of the panel's size; empty for nothing.
+    std::string const& panel_note() const { return panel_note_; }
 
 private:
     void choose_panel(std::string const& size, SiteData const& sites);
@@ -33,7 +33,8 @@ private:
     std::unique_ptr<Control> control_;
     std::size_t site_count_ = 0;
     Size panel_mm_ = {300, 200};
-    bool is_panel_fitted_ = false;
+    bool is_panel_fitted_ = false; // larger than usual because its sites ask for it
+    std::string panel_note_;
 };
 
 } // namespace zendara::program

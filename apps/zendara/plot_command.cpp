@@ -67,11 +67,11 @@ Exit plot(PlotOptions const& options)
     check_output(output, {".png", ".pdf", ".svg"}, options.data.file);
     Size const pixels = parse_pixels(options.pixels);
     LoadedControl loaded(options.control, pixels, options.data);
-    tell_fitted_panel(loaded);
     auto& control = loaded.control();
     for (auto const& setting : options.settings)
         apply_setting(control, setting);
     set_limits(control, options.limits);
+    tell_panel_note(loaded); // behind whatever may still be wrong with the options
 
     if (output.extension() == ".png")
         write_picture(loaded, output, options.data.file);

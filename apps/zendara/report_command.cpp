@@ -135,11 +135,11 @@ private:
     {
         constexpr Size usual_pixels = {1000, 700};
         LoadedControl loaded(std::string(controls_[index]->name), usual_pixels, options_.data);
-        if (index == 0)
-            tell_fitted_panel(loaded);
         set_caption(loaded.control());
         apply_settings(loaded.control(), options_.settings);
         set_limits(loaded.control(), options_.limits);
+        if (index == 0)
+            tell_panel_note(loaded);
 
         PrintedControl printed(loaded, paper_, options_.data.file);
         PlotPlace const place = sheet_.place(index, printed.has_legend());

@@ -66,6 +66,16 @@ TEST_F(Program, WithoutASizeThePanelHoldsAllSites)
     EXPECT_EQ(run("stats wide.csv --format csv").output.substr(0, 10), "file,sites");
 }
 
+TEST_F(Program, SitesBeyondThePanelAreToldOnceAndABadOptionAlone)
+{
+    write_sites();
+    auto const gallery = run("gallery film.csv --size 200x200 -o shown");
+    EXPECT_EQ(gallery.exit, 0);
+    EXPECT_EQ(std::count(gallery.errors.begin(), gallery.errors.end(), '\n'), 1) << gallery.errors;
+    expect_bad_input("plot film.csv --size 200x200 --limits 5 1",
+                     "--limits: the lower limit has to lie below the upper one");
+}
+
 TEST_F(Program, GalleryWritesAPictureOfEachControlAndAPageThatShowsThem)
 {
     write_sites();
