@@ -4,7 +4,7 @@
 #include "../tests/panels.hpp"
 #include "../tests/render/block_glyphs.hpp"
 #include "null_surface.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <benchmark/benchmark.h>
 

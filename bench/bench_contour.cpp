@@ -4,8 +4,8 @@
 #include "../tests/panels.hpp"
 #include "../tests/render/block_glyphs.hpp"
 #include "null_surface.hpp"
-#include "render/contour_mesh.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/render/plots/contour_mesh.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <benchmark/benchmark.h>
 

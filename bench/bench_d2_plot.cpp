@@ -3,8 +3,8 @@
 #include "../tests/panels.hpp"
 #include "../tests/render/block_glyphs.hpp"
 #include "null_surface.hpp"
-#include "render/raster_picture.hpp"
-#include "render/site_plot.hpp"
+#include "zendara/render/plots/site_plot.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <benchmark/benchmark.h>
 

@@ -3,7 +3,7 @@
 
 #include "../tests/panels.hpp"
 #include "null_surface.hpp"
-#include "render/histogram_plot.hpp"
+#include "zendara/render/plots/histogram_plot.hpp"
 
 #include <benchmark/benchmark.h>
 

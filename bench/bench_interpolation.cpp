@@ -1,4 +1,4 @@
-#include "panel/panel.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
-#include "platform/headless/freetype_glyphs.hpp"
-#include "platform/headless/png_file.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/files/freetype_glyphs.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <benchmark/benchmark.h>
 #include <libdeflate.h>

@@ -1,10 +1,10 @@
 // A whole plot in one process: sites in, PNG out. Beside it the least that any program has to do for it.
 
 #include "../tests/panels.hpp"
-#include "controls/zv_plot_2d.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "platform/headless/png_file.hpp"
-#include "platform/headless/window_painter.hpp"
+#include "zendara/controls/zv_plot_2d.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/form/window_painter.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <benchmark/benchmark.h>
 

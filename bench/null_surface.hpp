@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/surface.hpp"
+#include "zendara/render/surface/surface.hpp"
 
 #include <cstdint>
 

@@ -8,19 +8,17 @@ set(zendara_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZendaraView)
 
 install(TARGETS zendara_core EXPORT ZendaraViewCoreTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT core)
 install(EXPORT ZendaraViewCoreTargets NAMESPACE zendara:: DESTINATION ${zendara_package_dir} COMPONENT core)
-foreach(folder support panel render form print dialogs controls)
-    if(EXISTS ${PROJECT_SOURCE_DIR}/src/${folder})
-        install(DIRECTORY src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zendara COMPONENT core
-                FILES_MATCHING PATTERN "*.hpp" PATTERN "*.ipp")
-    endif()
+foreach(folder support render panel form print dialogs controls)
+    install(DIRECTORY src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zendara COMPONENT core
+            FILES_MATCHING PATTERN "*.hpp" PATTERN "*.ipp")
 endforeach()
 
 if(TARGET zendara_headless)
-    install(TARGETS zendara_headless EXPORT ZendaraViewHeadlessTargets
+    install(TARGETS zendara_files zendara_headless EXPORT ZendaraViewHeadlessTargets
             ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT headless)
     install(EXPORT ZendaraViewHeadlessTargets NAMESPACE zendara:: DESTINATION ${zendara_package_dir}
             COMPONENT headless)
-    install(DIRECTORY src/platform/headless DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zendara/platform
+    install(DIRECTORY src/files src/platform DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zendara
             COMPONENT headless FILES_MATCHING PATTERN "*.hpp")
     # How to find a library that comes without a package file of its own.
     install(DIRECTORY cmake/ DESTINATION ${zendara_package_dir} COMPONENT headless

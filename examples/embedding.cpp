@@ -2,13 +2,12 @@
 //
 // usage: zendara-embedding-example OUT.png
 
-#include "controls/zv_plot_2d.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "platform/headless/png_file.hpp"
-#include "platform/headless/window_painter.hpp"
-
 #include <cmath>
 #include <cstdio>
+#include <zendara/controls/zv_plot_2d.hpp>
+#include <zendara/files/png_file.hpp>
+#include <zendara/form/window_painter.hpp>
+#include <zendara/platform/headless/headless_platform.hpp>
 
 namespace
 {

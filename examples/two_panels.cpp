@@ -2,14 +2,13 @@
 //
 // usage: zendara-two-panels-example OUT.pdf
 
-#include "panel/panel.hpp"
-#include "platform/headless/paper_surface.hpp"
-#include "print/print_panel.hpp"
-
 #include <cmath>
 #include <cstdio>
 #include <exception>
 #include <string>
+#include <zendara/files/paper_surface.hpp>
+#include <zendara/panel/panel.hpp>
+#include <zendara/print/print_panel.hpp>
 
 namespace
 {

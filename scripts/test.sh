@@ -63,8 +63,8 @@ compile_core_with_libcxx() {
     version=$(clang++ -stdlib=libc++ -std=c++20 -include cstddef -dM -E -x c++ /dev/null |
         awk '$2 == "_LIBCPP_VERSION" {print $3}')
     echo "libc++ version $version"
-    find src -path src/platform -prune -o -name '*.cpp' -print0 |
-        xargs -0 -P "$jobs" -n 4 clang++ -stdlib=libc++ -std=c++20 -fsyntax-only -Isrc \
+    find src \( -path src/platform -o -path src/files \) -prune -o -name '*.cpp' -print0 |
+        xargs -0 -P "$jobs" -n 4 clang++ -stdlib=libc++ -std=c++20 -fsyntax-only -Iinclude \
             -ffp-contract=off -Wall -Wextra -Wpedantic -Wconversion -Werror
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/headless/png_file.hpp"
-#include "render/image.hpp"
-#include "support/failure.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/render/surface/image.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <gtest/gtest.h>
 

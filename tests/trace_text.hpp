@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/recorder.hpp"
+#include "zendara/render/surface/recorder.hpp"
 
 #include <sstream>
 #include <string>

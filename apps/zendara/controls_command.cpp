@@ -1,8 +1,8 @@
 #include "commands.hpp"
-#include "controls/control.hpp"
 #include "json.hpp"
 #include "near_names.hpp"
-#include "support/interface.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/host_array.hpp"
 #include "user_error.hpp"
+#include "zendara/support/host_array.hpp"
 
 #include <cstddef>
 #include <cstdint>

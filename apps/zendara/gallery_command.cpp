@@ -1,10 +1,10 @@
 #include "commands.hpp"
 #include "drawing.hpp"
 #include "gallery_page.hpp"
-#include "platform/headless/png_file.hpp"
-#include "platform/headless/window_painter.hpp"
 #include "progress.hpp"
 #include "statistics.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/form/window_painter.hpp"
 
 #include <filesystem>
 #include <fstream>

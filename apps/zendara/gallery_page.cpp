@@ -1,6 +1,6 @@
 #include "gallery_page.hpp"
 
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <cstdio>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/value.hpp"
+#include "zendara/support/value.hpp"
 
 #include <nlohmann/json_fwd.hpp>
 

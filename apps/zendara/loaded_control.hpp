@@ -1,9 +1,9 @@
 #pragma once
 
 #include "commands.hpp"
-#include "controls/control.hpp"
 #include "data_file.hpp"
-#include "platform/headless/headless_platform.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 // The command line program. This file alone knows how options are written; the commands know nothing of it.
 
 #include "commands.hpp"
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <CLI/CLI.hpp>
 

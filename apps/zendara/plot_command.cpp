@@ -2,10 +2,10 @@
 #include "drawing.hpp"
 #include "loaded_control.hpp"
 #include "output_file.hpp"
-#include "platform/headless/png_file.hpp"
-#include "platform/headless/window_painter.hpp"
 #include "printing.hpp"
 #include "setting.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/form/window_painter.hpp"
 
 #include <filesystem>
 #include <string>

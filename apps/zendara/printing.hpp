@@ -1,7 +1,7 @@
 #pragma once
 
 #include "loaded_control.hpp"
-#include "platform/headless/paper_surface.hpp"
+#include "zendara/files/paper_surface.hpp"
 
 #include <string>
 #include <vector>

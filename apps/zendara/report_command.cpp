@@ -6,7 +6,7 @@
 #include "progress.hpp"
 #include "report_sheet.hpp"
 #include "setting.hpp"
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <algorithm>
 #include <cstdio>

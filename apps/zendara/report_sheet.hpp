@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/headless/paper_surface.hpp"
 #include "printing.hpp"
+#include "zendara/files/paper_surface.hpp"
 
 #include <cstddef>
 #include <string>

@@ -1,10 +1,10 @@
 #include "setting.hpp"
 
 #include "near_names.hpp"
-#include "support/color.hpp"
-#include "support/interface.hpp"
-#include "support/number_text.hpp"
 #include "user_error.hpp"
+#include "zendara/support/color.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <charconv>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/interface.hpp"
-#include "support/object.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/object.hpp"
 
 #include <string>
 

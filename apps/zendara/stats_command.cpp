@@ -2,7 +2,7 @@
 #include "json.hpp"
 #include "loaded_control.hpp"
 #include "statistics.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "controls/contour_legend.hpp"
+#include "zendara/controls/contour_legend.hpp"
 
-#include "support/checked.hpp"
+#include "zendara/support/checked.hpp"
 
 #include <array>
 

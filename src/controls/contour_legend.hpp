@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/legend_column.hpp"
-#include "panel/panel.hpp"
-#include "render/d2_contour.hpp"
+#include "zendara/controls/legend_column.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/render/plots/contour.hpp"
 
 #include <string>
 

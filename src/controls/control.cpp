@@ -1,4 +1,4 @@
-#include "controls/control.hpp"
+#include "zendara/controls/control.hpp"
 
 namespace zendara
 {

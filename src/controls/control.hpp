@@ -1,9 +1,9 @@
 #pragma once
 
-#include "form/children.hpp"
-#include "form/property_bag.hpp"
-#include "panel/panel.hpp"
-#include "support/interface.hpp"
+#include "zendara/form/children.hpp"
+#include "zendara/form/property_bag.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <functional>
 #include <memory>

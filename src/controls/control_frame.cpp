@@ -1,4 +1,4 @@
-#include "controls/control_frame.hpp"
+#include "zendara/controls/control_frame.hpp"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "controls/control.hpp"
-#include "dialogs/frm_about.hpp"
-#include "dialogs/option_dialog.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/dialogs/frm_about.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 #include <array>
 #include <initializer_list>

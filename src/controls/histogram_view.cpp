@@ -1,4 +1,4 @@
-#include "controls/histogram_view.hpp"
+#include "zendara/controls/histogram_view.hpp"
 
 #include <array>
 

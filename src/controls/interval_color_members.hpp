@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/shared_members.hpp"
-#include "print/print_panel.hpp"
-#include "support/checked.hpp"
+#include "zendara/controls/shared_members.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
 {

@@ -1,4 +1,4 @@
-#include "controls/legend_column.hpp"
+#include "zendara/controls/legend_column.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/scan_line.hpp"
+#include "zendara/render/plots/scan_line.hpp"
 
 #include <cstdint>
 

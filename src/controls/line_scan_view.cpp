@@ -1,4 +1,4 @@
-#include "controls/line_scan_view.hpp"
+#include "zendara/controls/line_scan_view.hpp"
 
 #include <algorithm>
 #include <memory>

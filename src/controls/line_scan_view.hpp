@@ -1,7 +1,7 @@
 #pragma once
 
-#include "form/line_overview.hpp"
-#include "form/up_down.hpp"
+#include "zendara/form/line_overview.hpp"
+#include "zendara/form/up_down.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
-#include "controls/plot_frame.hpp"
+#include "zendara/controls/plot_frame.hpp"
 
-#include "support/trap.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/control_frame.hpp"
-#include "controls/legend_column.hpp"
-#include "controls/plot_view.hpp"
+#include "zendara/controls/control_frame.hpp"
+#include "zendara/controls/legend_column.hpp"
+#include "zendara/controls/plot_view.hpp"
 
 #include <functional>
 

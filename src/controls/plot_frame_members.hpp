@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/plot_frame.hpp"
-#include "controls/shared_members.hpp"
+#include "zendara/controls/plot_frame.hpp"
+#include "zendara/controls/shared_members.hpp"
 
 namespace zendara
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/plot_frame_members.hpp"
-#include "controls/print_members.hpp"
+#include "zendara/controls/plot_frame_members.hpp"
+#include "zendara/controls/print_members.hpp"
 
 namespace zendara
 {

@@ -1,4 +1,4 @@
-#include "controls/plot_view.hpp"
+#include "zendara/controls/plot_view.hpp"
 
 namespace zendara
 {

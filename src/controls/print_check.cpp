@@ -1,6 +1,6 @@
-#include "controls/print_check.hpp"
+#include "zendara/controls/print_check.hpp"
 
-#include "controls/print_members.hpp"
+#include "zendara/controls/print_members.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/control_frame.hpp"
+#include "zendara/controls/control_frame.hpp"
 
 namespace zendara
 {

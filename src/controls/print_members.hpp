@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/print_check.hpp"
-#include "controls/shared_members.hpp"
-#include "print/print_panel.hpp"
+#include "zendara/controls/print_check.hpp"
+#include "zendara/controls/shared_members.hpp"
+#include "zendara/print/print_panel.hpp"
 
 namespace zendara
 {

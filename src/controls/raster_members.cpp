@@ -1,4 +1,4 @@
-#include "controls/raster_members.hpp"
+#include "zendara/controls/raster_members.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/shared_members.hpp"
+#include "zendara/controls/shared_members.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
-#include "controls/resolution_limit.hpp"
+#include "zendara/controls/resolution_limit.hpp"
 
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

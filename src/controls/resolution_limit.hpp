@@ -1,7 +1,7 @@
 #pragma once
 
-#include "form/platform.hpp"
-#include "panel/panel.hpp"
+#include "zendara/form/platform.hpp"
+#include "zendara/panel/panel.hpp"
 
 namespace zendara
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/control_frame.hpp"
-#include "panel/load.hpp"
+#include "zendara/controls/control_frame.hpp"
+#include "zendara/panel/load.hpp"
 
 namespace zendara
 {

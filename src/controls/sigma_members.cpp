@@ -1,4 +1,4 @@
-#include "controls/sigma_members.hpp"
+#include "zendara/controls/sigma_members.hpp"
 
 namespace zendara
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "controls/legend_column.hpp"
-#include "controls/shared_members.hpp"
-#include "print/print_panel.hpp"
-#include "support/checked.hpp"
+#include "zendara/controls/legend_column.hpp"
+#include "zendara/controls/shared_members.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
 {

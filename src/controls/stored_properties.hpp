@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/control.hpp"
+#include "zendara/controls/control.hpp"
 
 namespace zendara
 {

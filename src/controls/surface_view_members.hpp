@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/resolution_limit.hpp"
-#include "controls/shared_members.hpp"
-#include "controls/view_rotation.hpp"
+#include "zendara/controls/resolution_limit.hpp"
+#include "zendara/controls/shared_members.hpp"
+#include "zendara/controls/view_rotation.hpp"
 
 namespace zendara
 {

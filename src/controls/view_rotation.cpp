@@ -1,6 +1,6 @@
-#include "controls/view_rotation.hpp"
+#include "zendara/controls/view_rotation.hpp"
 
-#include "support/checked.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/plot_frame.hpp"
+#include "zendara/controls/plot_frame.hpp"
 
 #include <cstdint>
 #include <functional>

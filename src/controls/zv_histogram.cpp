@@ -1,9 +1,9 @@
-#include "controls/zv_histogram.hpp"
+#include "zendara/controls/zv_histogram.hpp"
 
-#include "controls/hourglass.hpp"
-#include "controls/stored_properties.hpp"
-#include "dialogs/frm_plot_hist.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/controls/hourglass.hpp"
+#include "zendara/controls/stored_properties.hpp"
+#include "zendara/dialogs/frm_plot_hist.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 namespace zendara
 {

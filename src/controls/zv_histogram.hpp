@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/histogram_view.hpp"
-#include "controls/print_members.hpp"
-#include "controls/shared_members.hpp"
+#include "zendara/controls/histogram_view.hpp"
+#include "zendara/controls/print_members.hpp"
+#include "zendara/controls/shared_members.hpp"
 
 namespace zendara
 {

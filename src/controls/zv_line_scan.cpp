@@ -1,12 +1,12 @@
-#include "controls/zv_line_scan.hpp"
+#include "zendara/controls/zv_line_scan.hpp"
 
-#include "controls/stored_properties.hpp"
-#include "dialogs/frm_plot_opt_1d.hpp"
-#include "render/scan_labels.hpp"
-#include "support/checked.hpp"
-#include "support/field_check.hpp"
-#include "support/number_text.hpp"
-#include "support/trap.hpp"
+#include "zendara/controls/stored_properties.hpp"
+#include "zendara/dialogs/frm_plot_opt_1d.hpp"
+#include "zendara/render/plots/line_scan_labels.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/number_text.hpp"
+#include "zendara/support/trap.hpp"
 
 namespace zendara
 {

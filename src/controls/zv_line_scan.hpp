@@ -1,10 +1,10 @@
 #pragma once
 
-#include "controls/line_scan_settings.hpp"
-#include "controls/line_scan_view.hpp"
-#include "controls/print_members.hpp"
-#include "controls/raster_members.hpp"
-#include "controls/shared_members.hpp"
+#include "zendara/controls/line_scan_settings.hpp"
+#include "zendara/controls/line_scan_view.hpp"
+#include "zendara/controls/print_members.hpp"
+#include "zendara/controls/raster_members.hpp"
+#include "zendara/controls/shared_members.hpp"
 
 namespace zendara
 {

@@ -1,9 +1,9 @@
-#include "controls/zv_plot_2d.hpp"
+#include "zendara/controls/zv_plot_2d.hpp"
 
-#include "controls/plot_interface.hpp"
-#include "controls/resolution_limit.hpp"
-#include "controls/stored_properties.hpp"
-#include "dialogs/frm_plot_opt_2d.hpp"
+#include "zendara/controls/plot_interface.hpp"
+#include "zendara/controls/resolution_limit.hpp"
+#include "zendara/controls/stored_properties.hpp"
+#include "zendara/dialogs/frm_plot_opt_2d.hpp"
 
 namespace zendara
 {

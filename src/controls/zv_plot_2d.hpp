@@ -1,9 +1,9 @@
 #pragma once
 
-#include "controls/interval_color_members.hpp"
-#include "controls/plot_frame_members.hpp"
-#include "controls/print_members.hpp"
-#include "controls/raster_members.hpp"
+#include "zendara/controls/interval_color_members.hpp"
+#include "zendara/controls/plot_frame_members.hpp"
+#include "zendara/controls/print_members.hpp"
+#include "zendara/controls/raster_members.hpp"
 
 namespace zendara
 {

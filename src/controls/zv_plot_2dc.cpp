@@ -1,10 +1,10 @@
-#include "controls/zv_plot_2dc.hpp"
+#include "zendara/controls/zv_plot_2dc.hpp"
 
-#include "controls/plot_interface.hpp"
-#include "controls/stored_properties.hpp"
-#include "dialogs/frm_plot_opt_2dc.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/controls/plot_interface.hpp"
+#include "zendara/controls/stored_properties.hpp"
+#include "zendara/dialogs/frm_plot_opt_2dc.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include "controls/zv_plot_2dv.hpp"
+#include "zendara/controls/zv_plot_2dv.hpp"
 
-#include "controls/stored_properties.hpp"
+#include "zendara/controls/stored_properties.hpp"
 
 namespace zendara
 {

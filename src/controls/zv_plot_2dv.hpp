@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/interval_color_members.hpp"
-#include "controls/plot_frame_members.hpp"
-#include "controls/print_members.hpp"
+#include "zendara/controls/interval_color_members.hpp"
+#include "zendara/controls/plot_frame_members.hpp"
+#include "zendara/controls/print_members.hpp"
 
 namespace zendara
 {

@@ -1,8 +1,8 @@
-#include "controls/zv_plot_3d.hpp"
+#include "zendara/controls/zv_plot_3d.hpp"
 
-#include "controls/plot_interface.hpp"
-#include "controls/stored_properties.hpp"
-#include "dialogs/frm_plot_opt_3d.hpp"
+#include "zendara/controls/plot_interface.hpp"
+#include "zendara/controls/stored_properties.hpp"
+#include "zendara/dialogs/frm_plot_opt_3d.hpp"
 
 namespace zendara
 {

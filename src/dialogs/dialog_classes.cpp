@@ -1,11 +1,11 @@
-#include "dialogs/dialog_classes.hpp"
+#include "zendara/dialogs/dialog_classes.hpp"
 
-#include "dialogs/frm_about.hpp"
-#include "dialogs/frm_plot_hist.hpp"
-#include "dialogs/frm_plot_opt_1d.hpp"
-#include "dialogs/frm_plot_opt_2d.hpp"
-#include "dialogs/frm_plot_opt_2dc.hpp"
-#include "dialogs/frm_plot_opt_3d.hpp"
+#include "zendara/dialogs/frm_about.hpp"
+#include "zendara/dialogs/frm_plot_hist.hpp"
+#include "zendara/dialogs/frm_plot_opt_1d.hpp"
+#include "zendara/dialogs/frm_plot_opt_2d.hpp"
+#include "zendara/dialogs/frm_plot_opt_2dc.hpp"
+#include "zendara/dialogs/frm_plot_opt_3d.hpp"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/property_page.hpp"
-#include "form/form.hpp"
+#include "zendara/dialogs/property_page.hpp"
+#include "zendara/form/form.hpp"
 
 #include <memory>
 #include <span>

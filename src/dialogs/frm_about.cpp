@@ -1,7 +1,7 @@
-#include "dialogs/frm_about.hpp"
+#include "zendara/dialogs/frm_about.hpp"
 
-#include "dialogs/row_layout.hpp"
-#include "support/interface.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 #include <array>

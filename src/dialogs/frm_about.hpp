@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/form.hpp"
+#include "zendara/form/form.hpp"
 
 #include <cstdint>
 

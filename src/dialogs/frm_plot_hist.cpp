@@ -1,7 +1,7 @@
-#include "dialogs/frm_plot_hist.hpp"
+#include "zendara/dialogs/frm_plot_hist.hpp"
 
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

@@ -1,9 +1,9 @@
-#include "dialogs/frm_plot_opt_1d.hpp"
+#include "zendara/dialogs/frm_plot_opt_1d.hpp"
 
-#include "support/checked.hpp"
-#include "support/field_check.hpp"
-#include "support/number_text.hpp"
-#include "support/trap.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/number_text.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/option_dialog.hpp"
-#include "form/line_overview.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
+#include "zendara/form/line_overview.hpp"
 
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-#include "dialogs/frm_plot_opt_2d.hpp"
+#include "zendara/dialogs/frm_plot_opt_2d.hpp"
 
 namespace zendara
 {

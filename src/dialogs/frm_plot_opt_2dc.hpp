@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs/option_dialog.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
 
 namespace zendara
 {

@@ -1,4 +1,4 @@
-#include "dialogs/frm_plot_opt_3d.hpp"
+#include "zendara/dialogs/frm_plot_opt_3d.hpp"
 
 #include <algorithm>
 #include <array>

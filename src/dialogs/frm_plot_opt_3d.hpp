@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/option_dialog.hpp"
-#include "dialogs/view_fields.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
+#include "zendara/dialogs/view_fields.hpp"
 
 namespace zendara
 {

@@ -1,8 +1,8 @@
-#include "dialogs/number_field.hpp"
+#include "zendara/dialogs/number_field.hpp"
 
-#include "support/checked.hpp"
-#include "support/field_check.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "form/children.hpp"
-#include "panel/panel.hpp"
+#include "zendara/form/children.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "dialogs/option_dialog.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialogs/number_field.hpp"
-#include "dialogs/option_group.hpp"
-#include "dialogs/row_layout.hpp"
-#include "form/check_box.hpp"
-#include "form/form.hpp"
-#include "support/interface.hpp"
+#include "zendara/dialogs/number_field.hpp"
+#include "zendara/dialogs/option_group.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "dialogs/option_group.hpp"
+#include "zendara/dialogs/option_group.hpp"
 
-#include "dialogs/number_field.hpp"
-#include "dialogs/row_layout.hpp"
+#include "zendara/dialogs/number_field.hpp"
+#include "zendara/dialogs/row_layout.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/option_button.hpp"
+#include "zendara/form/option_button.hpp"
 
 #include <cstdint>
 #include <span>

@@ -1,9 +1,9 @@
-#include "dialogs/page_fields.hpp"
+#include "zendara/dialogs/page_fields.hpp"
 
-#include "dialogs/number_field.hpp"
-#include "support/field_check.hpp"
-#include "support/interface.hpp"
-#include "support/number_text.hpp"
+#include "zendara/dialogs/number_field.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

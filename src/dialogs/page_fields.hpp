@@ -1,9 +1,9 @@
 #pragma once
 
-#include "dialogs/option_group.hpp"
-#include "dialogs/row_layout.hpp"
-#include "dialogs/view_fields.hpp"
-#include "form/check_box.hpp"
+#include "zendara/dialogs/option_group.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/dialogs/view_fields.hpp"
+#include "zendara/form/check_box.hpp"
 
 #include <functional>
 

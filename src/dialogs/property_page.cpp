@@ -1,9 +1,9 @@
-#include "dialogs/property_page.hpp"
+#include "zendara/dialogs/property_page.hpp"
 
-#include "dialogs/row_layout.hpp"
-#include "form/form.hpp"
-#include "support/interface.hpp"
-#include "support/trap.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/trap.hpp"
 
 namespace zendara
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dialogs/page_fields.hpp"
-#include "form/children.hpp"
+#include "zendara/dialogs/page_fields.hpp"
+#include "zendara/form/children.hpp"
 
 #include <functional>
 #include <memory>

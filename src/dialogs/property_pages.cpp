@@ -1,10 +1,10 @@
-#include "dialogs/dialog_classes.hpp"
-#include "dialogs/frm_plot_opt_3d.hpp"
-#include "dialogs/property_page.hpp"
-#include "form/line_overview.hpp"
-#include "panel/panel.hpp"
-#include "support/interface.hpp"
-#include "support/trap.hpp"
+#include "zendara/dialogs/dialog_classes.hpp"
+#include "zendara/dialogs/frm_plot_opt_3d.hpp"
+#include "zendara/dialogs/property_page.hpp"
+#include "zendara/form/line_overview.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <array>
 

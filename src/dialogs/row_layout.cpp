@@ -1,7 +1,7 @@
-#include "dialogs/row_layout.hpp"
+#include "zendara/dialogs/row_layout.hpp"
 
-#include "form/check_box.hpp"
-#include "form/option_button.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/option_button.hpp"
 
 #include <algorithm>
 #include <utility>

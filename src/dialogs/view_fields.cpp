@@ -1,11 +1,11 @@
-#include "dialogs/view_fields.hpp"
+#include "zendara/dialogs/view_fields.hpp"
 
-#include "dialogs/number_field.hpp"
-#include "dialogs/row_layout.hpp"
-#include "render/panel_figure.hpp"
-#include "support/checked.hpp"
-#include "support/field_check.hpp"
-#include "support/number_text.hpp"
+#include "zendara/dialogs/number_field.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/render/plots/panel_figure.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

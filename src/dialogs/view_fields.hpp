@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/children.hpp"
+#include "zendara/form/children.hpp"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
-#include "form/check_box.hpp"
+#include "zendara/form/check_box.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 namespace zendara
 {

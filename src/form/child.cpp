@@ -1,6 +1,6 @@
-#include "form/child.hpp"
+#include "zendara/form/child.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 #include <cctype>

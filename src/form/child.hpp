@@ -1,8 +1,8 @@
 #pragma once
 
-#include "form/platform.hpp"
-#include "render/widget.hpp"
-#include "support/value.hpp"
+#include "zendara/form/platform.hpp"
+#include "zendara/render/surface/widget.hpp"
+#include "zendara/support/value.hpp"
 
 #include <functional>
 #include <map>

@@ -1,7 +1,7 @@
-#include "form/children.hpp"
+#include "zendara/form/children.hpp"
 
-#include "form/text_lines.hpp"
-#include "support/interface.hpp"
+#include "zendara/form/text_lines.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 

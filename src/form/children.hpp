@@ -1,7 +1,7 @@
 #pragma once
 
-#include "form/child.hpp"
-#include "render/image.hpp"
+#include "zendara/form/child.hpp"
+#include "zendara/render/surface/image.hpp"
 
 #include <memory>
 #include <string>

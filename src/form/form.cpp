@@ -1,7 +1,7 @@
-#include "form/form.hpp"
+#include "zendara/form/form.hpp"
 
-#include "form/check_box.hpp"
-#include "form/option_button.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/option_button.hpp"
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-#include "form/line_overview.hpp"
+#include "zendara/form/line_overview.hpp"
 
 #include <memory>
 

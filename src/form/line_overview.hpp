@@ -1,6 +1,6 @@
 #pragma once
 
-#include "form/line_shape.hpp"
+#include "zendara/form/line_shape.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
-#include "form/line_shape.hpp"
+#include "zendara/form/line_shape.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 namespace zendara
 {

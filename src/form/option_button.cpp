@@ -1,6 +1,6 @@
-#include "form/option_button.hpp"
+#include "zendara/form/option_button.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 namespace zendara
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "render/font.hpp"
-#include "render/surface.hpp"
+#include "zendara/render/surface/font.hpp"
+#include "zendara/render/surface/surface.hpp"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "form/property_bag.hpp"
+#include "zendara/form/property_bag.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 

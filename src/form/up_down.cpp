@@ -1,6 +1,6 @@
-#include "form/up_down.hpp"
+#include "zendara/form/up_down.hpp"
 
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "panel/bucket_search.hpp"
-#include "panel/panel.hpp"
-#include "support/checked.hpp"
-#include "support/trap.hpp"
+#include "zendara/panel/bucket_search.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
-#include "panel/bucket_search.hpp"
-#include "panel/panel.hpp"
+#include "zendara/panel/bucket_search.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <algorithm>
 #include <array>
@@ -47,7 +47,7 @@ inline void store(double* to, Narrow value)
     *to = value;
 }
 
-#include "panel/interpolation_lanes.ipp"
+#include "zendara/panel/interpolation_lanes.ipp"
 
 } // namespace one_lane
 
@@ -83,7 +83,7 @@ inline void store(double* to, Narrow const& value)
     _mm_storeu_pd(to, value);
 }
 
-#include "panel/interpolation_lanes.ipp"
+#include "zendara/panel/interpolation_lanes.ipp"
 
 } // namespace two_lanes
 
@@ -124,7 +124,7 @@ inline void store(double* to, Narrow const& value)
     _mm256_storeu_pd(to, value);
 }
 
-#include "panel/interpolation_lanes.ipp"
+#include "zendara/panel/interpolation_lanes.ipp"
 
 } // namespace four_lanes
 

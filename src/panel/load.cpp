@@ -1,7 +1,7 @@
-#include "panel/load.hpp"
+#include "zendara/panel/load.hpp"
 
-#include "support/checked.hpp"
-#include "support/trap.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <algorithm>
 #include <array>

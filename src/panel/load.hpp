@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panel/panel.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <cstdint>
 #include <string>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "support/boolean_word.hpp"
-#include "support/color.hpp"
-#include "support/host_array.hpp"
-#include "support/locale.hpp"
-#include "support/object.hpp"
-#include "support/value.hpp"
+#include "zendara/support/boolean_word.hpp"
+#include "zendara/support/color.hpp"
+#include "zendara/support/host_array.hpp"
+#include "zendara/support/locale.hpp"
+#include "zendara/support/object.hpp"
+#include "zendara/support/value.hpp"
 
 #include <cstdint>
 #include <functional>

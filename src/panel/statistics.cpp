@@ -1,5 +1,5 @@
-#include "panel/panel.hpp"
-#include "support/checked.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/checked.hpp"
 
 #include <cmath>
 

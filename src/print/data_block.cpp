@@ -1,7 +1,7 @@
-#include "print/data_block.hpp"
+#include "zendara/print/data_block.hpp"
 
-#include "print/paper_text.hpp"
-#include "support/checked.hpp"
+#include "zendara/print/paper_text.hpp"
+#include "zendara/support/checked.hpp"
 
 #include <cmath>
 

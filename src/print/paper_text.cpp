@@ -1,7 +1,7 @@
-#include "print/paper_text.hpp"
+#include "zendara/print/paper_text.hpp"
 
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

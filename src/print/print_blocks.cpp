@@ -1,7 +1,7 @@
-#include "print/data_block.hpp"
-#include "print/paper_text.hpp"
-#include "print/print_panel.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/data_block.hpp"
+#include "zendara/print/paper_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

@@ -1,6 +1,6 @@
-#include "print/print_panel.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <algorithm>
 #include <cmath>

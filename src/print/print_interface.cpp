@@ -1,6 +1,6 @@
-#include "print/print_panel.hpp"
-#include "print/viewbitmap.hpp"
-#include "support/interface.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/print/viewbitmap.hpp"
+#include "zendara/support/interface.hpp"
 
 namespace zendara
 {

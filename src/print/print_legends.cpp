@@ -1,7 +1,7 @@
-#include "print/print_panel.hpp"
-#include "render/color_scale.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/render/plots/color_scale.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

@@ -1,8 +1,8 @@
-#include "print/print_panel.hpp"
-#include "render/scan_indicator.hpp"
-#include "render/scan_labels.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/render/plots/line_scan_indicator.hpp"
+#include "zendara/render/plots/line_scan_labels.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

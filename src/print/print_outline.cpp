@@ -1,6 +1,6 @@
-#include "print/print_panel.hpp"
-#include "render/panel_figure.hpp"
-#include "support/checked.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/render/plots/panel_figure.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
 {

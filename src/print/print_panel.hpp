@@ -1,8 +1,8 @@
 #pragma once
 
-#include "panel/panel.hpp"
-#include "render/scan_line.hpp"
-#include "render/surface.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/render/plots/scan_line.hpp"
+#include "zendara/render/surface/surface.hpp"
 
 #include <functional>
 #include <string>

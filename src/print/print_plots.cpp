@@ -1,5 +1,5 @@
-#include "print/paper_text.hpp"
-#include "print/print_panel.hpp"
+#include "zendara/print/paper_text.hpp"
+#include "zendara/print/print_panel.hpp"
 
 #include <algorithm>
 

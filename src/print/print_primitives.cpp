@@ -1,8 +1,8 @@
-#include "print/paper_text.hpp"
-#include "print/print_panel.hpp"
-#include "render/drawing_state.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/paper_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/render/surface/drawing_state.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

@@ -1,10 +1,10 @@
-#include "print/viewbitmap.hpp"
+#include "zendara/print/viewbitmap.hpp"
 
-#include "print/data_block.hpp"
-#include "print/paper_text.hpp"
-#include "render/drawing_state.hpp"
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/print/data_block.hpp"
+#include "zendara/print/paper_text.hpp"
+#include "zendara/render/surface/drawing_state.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <cmath>
 

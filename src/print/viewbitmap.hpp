@@ -1,8 +1,8 @@
 #pragma once
 
-#include "form/platform.hpp"
-#include "panel/panel.hpp"
-#include "render/surface.hpp"
+#include "zendara/form/platform.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/render/surface/surface.hpp"
 
 #include <cstdint>
 #include <string>

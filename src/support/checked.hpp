@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <cmath>
 #include <cstdint>

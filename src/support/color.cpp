@@ -1,4 +1,4 @@
-#include "support/color.hpp"
+#include "zendara/support/color.hpp"
 
 namespace zendara
 {

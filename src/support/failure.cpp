@@ -1,4 +1,4 @@
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 namespace zendara
 {

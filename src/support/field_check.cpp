@@ -1,6 +1,6 @@
-#include "support/field_check.hpp"
+#include "zendara/support/field_check.hpp"
 
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

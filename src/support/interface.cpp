@@ -1,4 +1,4 @@
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 #include <cctype>

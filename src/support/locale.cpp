@@ -1,4 +1,4 @@
-#include "support/locale.hpp"
+#include "zendara/support/locale.hpp"
 
 #include <clocale>
 #include <utility>

@@ -1,7 +1,7 @@
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
-#include "support/checked.hpp"
-#include "support/locale.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/locale.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/boolean_word.hpp"
+#include "zendara/support/boolean_word.hpp"
 
 #include <cstdint>
 #include <optional>

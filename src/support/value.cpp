@@ -1,6 +1,6 @@
-#include "support/value.hpp"
+#include "zendara/support/value.hpp"
 
-#include "support/number_text.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara
 {

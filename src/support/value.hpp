@@ -1,8 +1,8 @@
 #pragma once
 
-#include "support/boolean_word.hpp"
-#include "support/host_array.hpp"
-#include "support/object.hpp"
+#include "zendara/support/boolean_word.hpp"
+#include "zendara/support/host_array.hpp"
+#include "zendara/support/object.hpp"
 
 #include <cstdint>
 #include <string>
@@ -55,4 +55,4 @@ template <class T> Value to_value(T&& result);
 
 } // namespace zendara
 
-#include "support/value_conversion.ipp"
+#include "zendara/support/value_conversion.ipp"

@@ -1,6 +1,6 @@
 // Conversions between interface values and C++ types; part of value.hpp.
 
-#include "support/checked.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
 {

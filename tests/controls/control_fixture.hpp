@@ -1,11 +1,11 @@
 #pragma once
 
-#include "controls/control.hpp"
 #include "panels.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "render/recorder.hpp"
-#include "support/interface.hpp"
 #include "trace_text.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "control_fixture.hpp"
-#include "form/line_shape.hpp"
-#include "platform/headless/window_painter.hpp"
+#include "zendara/form/line_shape.hpp"
+#include "zendara/form/window_painter.hpp"
 
 namespace zendara::test
 {

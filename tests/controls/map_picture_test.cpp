@@ -1,8 +1,8 @@
 // The map as pixels, from the data to the picture box of a control.
 
 #include "control_fixture.hpp"
-#include "controls/zv_plot_2d.hpp"
 #include "golden_picture.hpp"
+#include "zendara/controls/zv_plot_2d.hpp"
 
 namespace zendara::test
 {

@@ -1,15 +1,15 @@
 // The print members of the nine controls: what they test first, and which routine of the page gets which settings.
 #include "control_fixture.hpp"
-#include "controls/zv_histogram.hpp"
-#include "controls/zv_line_scan.hpp"
-#include "controls/zv_plot_2d.hpp"
-#include "controls/zv_plot_2dc.hpp"
-#include "controls/zv_plot_2ds.hpp"
-#include "controls/zv_plot_2dv.hpp"
-#include "controls/zv_plot_3d.hpp"
-#include "controls/zv_plot_3db.hpp"
-#include "controls/zv_plot_3ds.hpp"
-#include "print/print_panel.hpp"
+#include "zendara/controls/zv_histogram.hpp"
+#include "zendara/controls/zv_line_scan.hpp"
+#include "zendara/controls/zv_plot_2d.hpp"
+#include "zendara/controls/zv_plot_2dc.hpp"
+#include "zendara/controls/zv_plot_2ds.hpp"
+#include "zendara/controls/zv_plot_2dv.hpp"
+#include "zendara/controls/zv_plot_3d.hpp"
+#include "zendara/controls/zv_plot_3db.hpp"
+#include "zendara/controls/zv_plot_3ds.hpp"
+#include "zendara/print/print_panel.hpp"
 
 #include <array>
 #include <functional>

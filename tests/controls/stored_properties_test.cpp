@@ -1,4 +1,4 @@
-#include "controls/stored_properties.hpp"
+#include "zendara/controls/stored_properties.hpp"
 
 #include <gtest/gtest.h>
 

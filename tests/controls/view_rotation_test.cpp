@@ -1,7 +1,7 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_3d.hpp"
-#include "controls/zv_plot_3db.hpp"
-#include "controls/zv_plot_3ds.hpp"
+#include "zendara/controls/zv_plot_3d.hpp"
+#include "zendara/controls/zv_plot_3db.hpp"
+#include "zendara/controls/zv_plot_3ds.hpp"
 
 namespace zendara::test
 {

@@ -1,7 +1,7 @@
 #include "control_fixture.hpp"
-#include "controls/zv_histogram.hpp"
-#include "form/line_shape.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/controls/zv_histogram.hpp"
+#include "zendara/form/line_shape.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 namespace zendara::test
 {

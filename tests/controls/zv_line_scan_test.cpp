@@ -1,6 +1,6 @@
 #include "control_fixture.hpp"
-#include "controls/zv_line_scan.hpp"
 #include "support/failure_kind.hpp"
+#include "zendara/controls/zv_line_scan.hpp"
 
 namespace zendara::test
 {

@@ -1,6 +1,6 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_2d.hpp"
-#include "support/number_text.hpp"
+#include "zendara/controls/zv_plot_2d.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <cstdio>
 #include <filesystem>

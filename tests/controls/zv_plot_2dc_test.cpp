@@ -1,6 +1,6 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_2dc.hpp"
 #include "golden_picture.hpp"
+#include "zendara/controls/zv_plot_2dc.hpp"
 
 #include <cmath>
 

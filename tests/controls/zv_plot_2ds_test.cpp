@@ -1,5 +1,5 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_2ds.hpp"
+#include "zendara/controls/zv_plot_2ds.hpp"
 
 namespace zendara::test
 {

@@ -1,5 +1,5 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_3d.hpp"
+#include "zendara/controls/zv_plot_3d.hpp"
 
 namespace zendara::test
 {

@@ -1,5 +1,5 @@
 #include "control_fixture.hpp"
-#include "controls/zv_plot_3db.hpp"
+#include "zendara/controls/zv_plot_3db.hpp"
 
 namespace zendara::test
 {

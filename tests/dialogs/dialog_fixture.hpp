@@ -1,10 +1,10 @@
 #pragma once
 
-#include "dialogs/option_dialog.hpp"
 #include "panels.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "render/recorder.hpp"
 #include "trace_text.hpp"
+#include "zendara/dialogs/option_dialog.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/render/surface/recorder.hpp"
 
 #include <gtest/gtest.h>
 

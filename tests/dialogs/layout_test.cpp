@@ -1,8 +1,8 @@
-#include "dialogs/dialog_classes.hpp"
-#include "dialogs/row_layout.hpp"
-#include "form/check_box.hpp"
-#include "form/option_button.hpp"
-#include "platform/headless/headless_platform.hpp"
+#include "zendara/dialogs/dialog_classes.hpp"
+#include "zendara/dialogs/row_layout.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/option_button.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "dialog_fixture.hpp"
-#include "dialogs/frm_plot_opt_2d.hpp"
+#include "zendara/dialogs/frm_plot_opt_2d.hpp"
 
 namespace zendara::test
 {

@@ -1,7 +1,7 @@
 #include "dialog_fixture.hpp"
-#include "dialogs/frm_about.hpp"
-#include "dialogs/frm_plot_hist.hpp"
-#include "dialogs/frm_plot_opt_2dc.hpp"
+#include "zendara/dialogs/frm_about.hpp"
+#include "zendara/dialogs/frm_plot_hist.hpp"
+#include "zendara/dialogs/frm_plot_opt_2dc.hpp"
 
 namespace zendara::test
 {

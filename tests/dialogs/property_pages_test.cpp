@@ -1,12 +1,12 @@
-#include "controls/control.hpp"
-#include "dialogs/dialog_classes.hpp"
-#include "form/check_box.hpp"
-#include "form/line_shape.hpp"
-#include "form/option_button.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "render/recorder.hpp"
-#include "support/interface.hpp"
 #include "trace_text.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/dialogs/dialog_classes.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/line_shape.hpp"
+#include "zendara/form/option_button.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

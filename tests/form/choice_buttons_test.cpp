@@ -1,8 +1,8 @@
-#include "form/check_box.hpp"
-#include "form/form.hpp"
-#include "form/option_button.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "support/interface.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/form/option_button.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "form/check_box.hpp"
-#include "form/form.hpp"
-#include "form/option_button.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "platform/headless/window_painter.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/form/option_button.hpp"
+#include "zendara/form/window_painter.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "form/children.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "platform/headless/window_painter.hpp"
+#include "zendara/form/children.hpp"
+#include "zendara/form/window_painter.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "form/check_box.hpp"
-#include "form/option_button.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "platform/headless/window_painter.hpp"
-#include "support/color.hpp"
+#include "zendara/form/check_box.hpp"
+#include "zendara/form/option_button.hpp"
+#include "zendara/form/window_painter.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/support/color.hpp"
 
 #include <gtest/gtest.h>
 

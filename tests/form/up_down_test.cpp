@@ -1,6 +1,6 @@
-#include "form/up_down.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "support/interface.hpp"
+#include "zendara/form/up_down.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Any text through the number test, the field checks and back through all number formats.
 
-#include "support/failure.hpp"
-#include "support/field_check.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/failure.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <algorithm>
 #include <cmath>

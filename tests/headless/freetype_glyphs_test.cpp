@@ -1,6 +1,6 @@
-#include "platform/headless/freetype_glyphs.hpp"
-#include "render/raster_picture.hpp"
-#include "support/failure.hpp"
+#include "zendara/files/freetype_glyphs.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <gtest/gtest.h>
 

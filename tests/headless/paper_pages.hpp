@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/headless/paper_surface.hpp"
-#include "platform/headless/png_file.hpp"
+#include "zendara/files/paper_surface.hpp"
+#include "zendara/files/png_file.hpp"
 
 #include <gtest/gtest.h>
 

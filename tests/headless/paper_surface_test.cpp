@@ -1,8 +1,8 @@
 // The document: sizes, units, texts, pages, and what stands on the disk at which time.
 
 #include "headless/paper_pages.hpp"
-#include "support/failure.hpp"
 #include "support/failure_kind.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <cerrno>
 #include <sys/mount.h>

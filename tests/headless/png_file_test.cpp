@@ -1,5 +1,5 @@
-#include "platform/headless/png_file.hpp"
-#include "support/failure.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <gtest/gtest.h>
 

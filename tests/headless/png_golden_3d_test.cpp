@@ -1,7 +1,7 @@
 #include "golden_picture.hpp"
 #include "panels.hpp"
-#include "platform/headless/freetype_glyphs.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/files/freetype_glyphs.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "panel/panel.hpp"
-#include "support/trap.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <cstdint>
 #include <cstring>

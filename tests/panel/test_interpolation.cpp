@@ -1,5 +1,5 @@
-#include "panel/panel.hpp"
 #include "panel/panel_samples.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <gtest/gtest.h>
 

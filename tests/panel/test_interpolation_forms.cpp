@@ -1,6 +1,6 @@
-#include "panel/panel.hpp"
 #include "panel/panel_samples.hpp"
-#include "support/trap.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "panel/panel.hpp"
-#include "support/locale.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/support/locale.hpp"
 
 #include <gtest/gtest.h>
 

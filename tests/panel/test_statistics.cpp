@@ -1,5 +1,5 @@
-#include "panel/load.hpp"
-#include "panel/panel.hpp"
+#include "zendara/panel/load.hpp"
+#include "zendara/panel/panel.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "panels.hpp"
-#include "print/print_panel.hpp"
-#include "render/recorder.hpp"
 #include "support/failure_kind.hpp"
 #include "trace_text.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/render/surface/recorder.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "page_fixture.hpp"
-#include "print/paper_text.hpp"
+#include "zendara/print/paper_text.hpp"
 
 #include <limits>
 

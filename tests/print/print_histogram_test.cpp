@@ -1,5 +1,5 @@
 #include "page_fixture.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 namespace zendara::test
 {

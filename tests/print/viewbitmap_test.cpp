@@ -1,8 +1,8 @@
 #include "page_fixture.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "print/viewbitmap.hpp"
-#include "render/image.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/print/viewbitmap.hpp"
+#include "zendara/render/surface/image.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 namespace zendara::test
 {

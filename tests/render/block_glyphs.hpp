@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/font.hpp"
+#include "zendara/render/surface/font.hpp"
 
 #include <map>
 

@@ -1,6 +1,6 @@
 #include "panels.hpp"
-#include "render/widget.hpp"
-#include "support/failure.hpp"
+#include "zendara/render/surface/widget.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "panels.hpp"
-#include "render/recorder.hpp"
-#include "render/site_plot.hpp"
 #include "trace_text.hpp"
+#include "zendara/render/plots/site_plot.hpp"
+#include "zendara/render/surface/recorder.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "panels.hpp"
-#include "render/contour_mesh.hpp"
-#include "render/d2_contour.hpp"
-#include "render/recorder.hpp"
 #include "support/failure_kind.hpp"
-#include "support/interface.hpp"
 #include "trace_text.hpp"
+#include "zendara/render/plots/contour.hpp"
+#include "zendara/render/plots/contour_mesh.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

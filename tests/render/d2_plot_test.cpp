@@ -1,7 +1,7 @@
 #include "panels.hpp"
-#include "render/raster_picture.hpp"
-#include "render/site_plot.hpp"
 #include "trace_text.hpp"
+#include "zendara/render/plots/site_plot.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <gtest/gtest.h>
 

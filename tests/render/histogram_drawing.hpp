@@ -1,9 +1,9 @@
 #pragma once
 
 #include "panels.hpp"
-#include "render/recorder.hpp"
-#include "support/number_text.hpp"
 #include "trace_text.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "histogram_drawing.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 namespace zendara::test
 {

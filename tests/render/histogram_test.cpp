@@ -1,6 +1,6 @@
 #include "histogram_drawing.hpp"
-#include "render/histogram_plot.hpp"
-#include "render/histogram_shared.hpp"
+#include "zendara/render/plots/histogram_plot.hpp"
+#include "zendara/render/plots/histogram_shared.hpp"
 
 #include <set>
 

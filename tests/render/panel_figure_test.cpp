@@ -1,8 +1,8 @@
 #include "panels.hpp"
-#include "render/panel_figure.hpp"
-#include "render/widget.hpp"
-#include "support/failure.hpp"
 #include "trace_text.hpp"
+#include "zendara/render/plots/panel_figure.hpp"
+#include "zendara/render/surface/widget.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/image.hpp"
+#include "zendara/render/surface/image.hpp"
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "render/font.hpp"
+#include "zendara/render/surface/font.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "render/block_glyphs.hpp"
 #include "render/picture_rows.hpp"
-#include "render/raster_picture.hpp"
 #include "support/failure_kind.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "render/picture_rows.hpp"
-#include "render/scan_converter.hpp"
+#include "zendara/render/surface/scan_converter.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "render/widget.hpp"
-#include "support/failure.hpp"
+#include "zendara/render/surface/widget.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <cstddef>
 #include <memory>

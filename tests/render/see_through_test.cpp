@@ -1,5 +1,5 @@
 #include "block_glyphs.hpp"
-#include "render/raster_picture.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "support/boolean_word.hpp"
+#include "zendara/support/boolean_word.hpp"
 
 #include <gtest/gtest.h>
 

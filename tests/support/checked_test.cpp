@@ -1,5 +1,5 @@
 #include "failure_kind.hpp"
-#include "support/checked.hpp"
+#include "zendara/support/checked.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/locale.hpp"
+#include "zendara/support/locale.hpp"
 
 #include <string>
 

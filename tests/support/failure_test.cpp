@@ -1,5 +1,5 @@
-#include "support/failure.hpp"
-#include "support/trap.hpp"
+#include "zendara/support/failure.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <gtest/gtest.h>
 

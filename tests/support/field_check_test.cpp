@@ -1,4 +1,4 @@
-#include "support/field_check.hpp"
+#include "zendara/support/field_check.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "failure_kind.hpp"
-#include "support/host_array.hpp"
+#include "zendara/support/host_array.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "failure_kind.hpp"
-#include "support/interface.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "decimal_mark.hpp"
-#include "support/locale.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/locale.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <gtest/gtest.h>
 

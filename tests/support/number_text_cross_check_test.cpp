@@ -1,7 +1,7 @@
 // Number texts against slow long decimal arithmetic, over many random numbers.
 
-#include "support/checked.hpp"
-#include "support/number_text.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/number_text.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "decimal_mark.hpp"
 #include "failure_kind.hpp"
-#include "support/interface.hpp"
-#include "support/value.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/value.hpp"
 
 #include <gtest/gtest.h>
 

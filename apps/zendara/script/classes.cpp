@@ -1,18 +1,18 @@
 #include "script/classes.hpp"
 
-#include "controls/control.hpp"
-#include "dialogs/dialog_classes.hpp"
 #include "near_names.hpp"
-#include "panel/panel.hpp"
-#include "print/print_panel.hpp"
-#include "print/viewbitmap.hpp"
-#include "render/raster_picture.hpp"
-#include "render/recorder.hpp"
 #include "script/options.hpp"
 #include "script/pdf_printer.hpp"
 #include "script/support_routines.hpp"
-#include "support/checked.hpp"
-#include "support/interface.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/dialogs/dialog_classes.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/print/viewbitmap.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <nlohmann/json.hpp>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "json.hpp"
-#include "platform/headless/headless_platform.hpp"
-#include "support/object.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/support/object.hpp"
 
 #include <memory>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "script/objects.hpp"
 
-#include "form/property_bag.hpp"
-#include "support/failure.hpp"
-#include "support/interface.hpp"
+#include "zendara/form/property_bag.hpp"
+#include "zendara/support/failure.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <charconv>
 #include <utility>

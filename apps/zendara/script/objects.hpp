@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/control.hpp"
-#include "support/object.hpp"
+#include "zendara/controls/control.hpp"
+#include "zendara/support/object.hpp"
 
 #include <map>
 #include <memory>

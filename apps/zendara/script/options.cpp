@@ -1,6 +1,6 @@
 #include "script/options.hpp"
 
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <nlohmann/json.hpp>
 

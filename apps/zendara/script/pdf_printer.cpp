@@ -1,8 +1,8 @@
 #include "script/pdf_printer.hpp"
 
 #include "script/options.hpp"
-#include "support/failure.hpp"
-#include "support/interface.hpp"
+#include "zendara/support/failure.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <string>
 

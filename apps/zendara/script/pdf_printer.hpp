@@ -1,7 +1,7 @@
 #pragma once
 
 #include "json.hpp"
-#include "platform/headless/paper_surface.hpp"
+#include "zendara/files/paper_surface.hpp"
 
 namespace zendara::program
 {

@@ -1,8 +1,8 @@
 #include "script/session.hpp"
 
-#include "form/form.hpp"
 #include "script/steps.hpp"
-#include "support/failure.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <nlohmann/json.hpp>
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "json.hpp"
-#include "platform/headless/headless_platform.hpp"
 #include "script/objects.hpp"
 #include "script/output.hpp"
 #include "script/script.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
 #include <cstddef>
 #include <deque>

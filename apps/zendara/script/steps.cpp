@@ -1,12 +1,12 @@
 #include "script/steps.hpp"
 
-#include "platform/headless/png_file.hpp"
-#include "platform/headless/window_painter.hpp"
-#include "render/recorder.hpp"
 #include "script/classes.hpp"
 #include "script/session.hpp"
 #include "script/values.hpp"
-#include "support/interface.hpp"
+#include "zendara/files/png_file.hpp"
+#include "zendara/form/window_painter.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <nlohmann/json.hpp>
 

@@ -1,11 +1,11 @@
 #include "script/support_routines.hpp"
 
-#include "controls/control_frame.hpp"
-#include "panel/load.hpp"
-#include "render/panel_figure.hpp"
-#include "support/field_check.hpp"
-#include "support/interface.hpp"
-#include "support/number_text.hpp"
+#include "zendara/controls/control_frame.hpp"
+#include "zendara/panel/load.hpp"
+#include "zendara/render/plots/panel_figure.hpp"
+#include "zendara/support/field_check.hpp"
+#include "zendara/support/interface.hpp"
+#include "zendara/support/number_text.hpp"
 
 namespace zendara::program
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "panel/panel.hpp"
-#include "render/surface.hpp"
-#include "support/boolean_word.hpp"
-#include "support/object.hpp"
+#include "zendara/panel/panel.hpp"
+#include "zendara/render/surface/surface.hpp"
+#include "zendara/support/boolean_word.hpp"
+#include "zendara/support/object.hpp"
 
 #include <cstdint>
 #include <string>

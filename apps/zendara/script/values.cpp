@@ -1,6 +1,6 @@
 #include "script/values.hpp"
 
-#include "support/failure.hpp"
+#include "zendara/support/failure.hpp"
 
 #include <nlohmann/json.hpp>
 

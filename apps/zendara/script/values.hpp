@@ -1,9 +1,9 @@
 #pragma once
 
 #include "json.hpp"
-#include "render/recorder.hpp"
 #include "script/objects.hpp"
-#include "support/value.hpp"
+#include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/value.hpp"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
-#include "platform/headless/headless_platform.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
 
-#include "form/form.hpp"
-#include "render/raster_picture.hpp"
-#include "support/checked.hpp"
-#include "support/locale.hpp"
+#include "zendara/form/form.hpp"
+#include "zendara/render/surface/raster_picture.hpp"
+#include "zendara/support/checked.hpp"
+#include "zendara/support/locale.hpp"
 
 #include <clocale>
 #include <langinfo.h>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "form/children.hpp"
-#include "form/platform.hpp"
-#include "platform/headless/freetype_glyphs.hpp"
-#include "render/recorder.hpp"
+#include "zendara/files/freetype_glyphs.hpp"
+#include "zendara/form/children.hpp"
+#include "zendara/form/platform.hpp"
+#include "zendara/render/surface/recorder.hpp"
 
 #include <functional>
 #include <string>

@@ -1,9 +1,8 @@
 // Loads twelve sites and asks for their mean and for a value between four of them.
 
-#include "panel/panel.hpp"
-
 #include <cmath>
 #include <cstdio>
+#include <zendara/panel/panel.hpp>
 
 namespace
 {
