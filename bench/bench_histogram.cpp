@@ -37,11 +37,12 @@ void count_values_done(benchmark::State& state)
 template <class Bins> void CountBins(benchmark::State& state)
 {
     auto const values = values_of_sites();
+    panel const record;
     Bins const bins_of_values{450, 550, 100.0F / bins, bins};
     for (auto _ : state) {
         HostArray<std::int16_t> counts;
         counts.redim(1, bins);
-        count_values(values, bins_of_values, counts, [] {});
+        count_values({nullptr, record, "CountBins", "bin"}, values, bins_of_values, counts, [] {});
         benchmark::DoNotOptimize(counts);
     }
     count_values_done(state);

@@ -6,13 +6,10 @@ namespace zendara
 {
 
 ControlFrame::ControlFrame(Control& control, Platform& platform, std::string name)
-    : window(platform, std::move(name)), printer(platform.default_printer()), control_(control),
-      default_printer_scope_(platform.default_printer())
+    : window(platform, std::move(name)), printer(platform.default_printer()), control_(control)
 {
     platform.set_help_file(help_file_name(platform.application_path()));
-    record.show_message = [&platform](std::string_view text, int style, std::string_view title) {
-        platform.message_box(text, style, title);
-    };
+    record.container = &platform;
 }
 
 void ControlFrame::report_change(std::string_view property)

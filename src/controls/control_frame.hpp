@@ -3,7 +3,6 @@
 #include "zendara/controls/control.hpp"
 #include "zendara/dialogs/frm_about.hpp"
 #include "zendara/dialogs/option_dialog.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
 
 #include <array>
 #include <initializer_list>
@@ -54,7 +53,6 @@ public:
 
 private:
     Control& control_;
-    DefaultPrinterScope default_printer_scope_;
 };
 
 /// Forms of the pointer.

@@ -68,7 +68,7 @@ void PlotFrame::show_position(double rotation_deg, double inclination_deg)
 
 void PlotFrame::lay_out()
 {
-    trap([this] { lay_out_steps(); });
+    trap({&frame_.platform(), frame_.record, "layout", "all"}, [this] { lay_out_steps(); });
 }
 
 void PlotFrame::lay_out_steps()

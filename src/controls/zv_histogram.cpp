@@ -3,7 +3,7 @@
 #include "zendara/controls/hourglass.hpp"
 #include "zendara/controls/stored_properties.hpp"
 #include "zendara/dialogs/frm_plot_hist.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 namespace zendara
 {
@@ -31,7 +31,7 @@ double at_least_smallest(double side)
 
 ZvHistogram::ZvHistogram(Platform& platform) : frame_(*this, platform, "ZvHistogram"), view_(frame_.window)
 {
-    histogram_limits().HistLimitOn = false;
+    ResetControlLimit();
     std::initializer_list<Child*> const sources = {&frame_.window, &view_.PLOTA, &view_.histPic, &view_.frmhist};
     frame_.forward(sources, click_events);
     frame_.forward(sources, mouse_events);
@@ -145,12 +145,14 @@ void ZvHistogram::Borderstyle(std::int16_t Bstyle)
 
 void ZvHistogram::ShowControlLimit(double LCLs, double UCLs)
 {
-    histogram_limits() = {true, LCLs, UCLs};
+    set_histogram_limits({true, LCLs, UCLs});
 }
 
 void ZvHistogram::ResetControlLimit()
 {
-    histogram_limits().HistLimitOn = false;
+    auto limits = histogram_limits();
+    limits.HistLimitOn = false;
+    set_histogram_limits(limits);
 }
 
 void ZvHistogram::ShowPlotOption()

@@ -260,12 +260,18 @@ void ZvLineScan::draw_line_form()
     draw_scan();
 }
 
+TrapPlace ZvLineScan::place_of(char const* step)
+{
+    return {&frame_.platform(), frame_.record, "layout", step};
+}
+
 // Each step for itself: a failed one leaves the others.
 void ZvLineScan::lay_out()
 {
-    trap([this] { view_.take_smallest_size(frame_.legend_shown); });
-    trap([this] { view_.lay_out(frame_.legend_shown, ScanValueText(frame_.record.maximal)(frame_.record.maximal)); });
-    trap([this] {
+    trap(place_of("smallest size"), [this] { view_.take_smallest_size(frame_.legend_shown); });
+    trap(place_of("children"),
+         [this] { view_.lay_out(frame_.legend_shown, ScanValueText(frame_.record.maximal)(frame_.record.maximal)); });
+    trap(place_of("grid"), [this] {
         PictureBox& picture = view_.PLOTA;
         double left = 0, top = 0, width = picture.Width(), height = picture.Height();
         picture.Cls();
@@ -280,9 +286,9 @@ void ZvLineScan::show_again()
 {
     if (!frame_.plot_requested)
         return;
-    trap([this] { draw_curve(); });
+    trap(place_of("curve"), [this] { draw_curve(); });
     if (shows_sites_)
-        trap([this] { mark_sites(); });
+        trap(place_of("marks"), [this] { mark_sites(); });
 }
 
 void ZvLineScan::draw_scan()

@@ -5,6 +5,7 @@
 #include "zendara/controls/print_members.hpp"
 #include "zendara/controls/raster_members.hpp"
 #include "zendara/controls/shared_members.hpp"
+#include "zendara/support/trap.hpp"
 
 namespace zendara
 {
@@ -100,6 +101,7 @@ private:
     void set_coordinate(double& coordinate, std::int16_t value, std::string_view property);
     void write_angle(std::int16_t angle);
 
+    TrapPlace place_of(char const* step);
     void lay_out();
     void show_again();
     void draw();

@@ -238,7 +238,7 @@ BooleanWord frmPlotOpt1D::leave(Axis const& axis, int index)
 // The picture follows as far as it can: a panel without a size has none, and the fields go on without it.
 void frmPlotOpt1D::move_mark(int index)
 {
-    trap([&] {
+    trap({&platform(), *this, "frmPlotOpt1D", "mark"}, [&] {
         constexpr double border = 4; // pixels, both sides together
         PictureBox const& plot = overview.picture;
         double const pixels_per_mm = std::min(divide(plot.Width() - border, record().TestSizeX),
@@ -252,7 +252,7 @@ void frmPlotOpt1D::move_mark(int index)
 
 void frmPlotOpt1D::draw_line()
 {
-    trap([&] {
+    trap({&platform(), *this, "frmPlotOpt1D", "line"}, [&] {
         std::int16_t mode = mode_;
         std::int16_t angle = to_i16(angle_deg_);
         auto [x1, y1] = point(0);

@@ -32,7 +32,7 @@ void PropertyPage::ApplyChanges()
 {
     Object& control = first_selected();
     for (auto const& field : fields_)
-        trap([&] { field->write(control); });
+        trap({&platform(), *this, "ApplyChanges", "field"}, [&] { field->write(control); });
     changed_ = false;
 }
 

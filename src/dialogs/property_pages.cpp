@@ -222,7 +222,7 @@ private:
     // A panel without a size has no picture, and the field goes on without it.
     void draw_line()
     {
-        trap([&] {
+        trap({&platform(), *this, "LineScanAngleProp", "line"}, [&] {
             std::int16_t mode = 1;
             std::int16_t angle = angle_.degrees();
             double x1 = rotation_x_, y1 = rotation_y_, x2 = 0, y2 = 0;

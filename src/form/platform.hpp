@@ -2,6 +2,7 @@
 
 #include "zendara/render/surface/font.hpp"
 #include "zendara/render/surface/surface.hpp"
+#include "zendara/support/container.hpp"
 
 #include <cstdint>
 #include <memory>
@@ -14,20 +15,10 @@ namespace zendara
 class Form;
 class PictureBox;
 
-/// Parts of a message box's style; a style is their sum.
-constexpr int message_critical = 16;
-constexpr int message_information = 64;
-constexpr int message_system_modal = 4096;
-
 /// The few services that a container gives to the controls in it.
-class Platform
+class Platform : public Container
 {
 public:
-    virtual ~Platform() = default;
-
-    /// Shows a message box and waits until the user has closed it.
-    virtual void message_box(std::string_view text, int style, std::string_view title) = 0;
-
     /// Lets other messages of the user interface in, once.
     virtual void do_events() = 0;
 
@@ -37,14 +28,10 @@ public:
     virtual double twips_per_pixel_x() const = 0;
     virtual double twips_per_pixel_y() const = 0;
 
-    /// The folder of the library, and its version as users read it.
+    /// The folder of the library.
     virtual std::string application_path() const = 0;
-    virtual std::string version() const = 0;
 
     virtual void set_help_file(std::string const& file) = 0;
-
-    /// The printer that a new control prints to; nullptr where there is none.
-    virtual Surface* default_printer() = 0;
 
     /// The drawing surface of a picture box.
     virtual std::unique_ptr<Surface> make_surface(PictureBox& box) = 0;

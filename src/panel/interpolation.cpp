@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace zendara
 {
@@ -69,14 +70,19 @@ double distance_to_whole(double value)
     return fraction < 0.5 ? fraction : 1 - fraction;
 }
 
+TrapPlace place_of(panel const& record, char const* step)
+{
+    return {record.container, record, "Interpolation", step};
+}
+
 // The bucket search, every step under its own trap: a step that fails leaves its target as it was.
 class StepByStep
 {
 public:
-    StepByStep(panel const& record, double x, double y) : sites_(record), x_(x), y_(y)
+    StepByStep(panel const& record, double x, double y) : record_(record), sites_(record), x_(x), y_(y)
     {
-        trap([&] { scale_ = finite(record.SizeX + record.SizeY); });
-        trap([&] { slots_.distance.fill(finite(4 * scale_)); });
+        step("size", [&] { scale_ = finite(record.SizeX + record.SizeY); });
+        step("first distances", [&] { slots_.distance.fill(finite(4 * scale_)); });
         slots_.site.fill(1);
     }
 
@@ -88,25 +94,30 @@ public:
             offer_next_ring();
 
         double result = 0;
-        trap([&] { result = value_of(slots_, sites_); });
+        step("mean of four sites", [&] { result = value_of(slots_, sites_); });
         return result;
     }
 
 private:
+    template <class Step> void step(char const* name, Step&& step)
+    {
+        trap(place_of(record_, name), std::forward<Step>(step));
+    }
+
     void find_centre()
     {
         double cells_x = 0, cells_y = 0;
-        trap([&] { cells_x = divide(x_, sites_.pitch()); });
-        trap([&] { cells_y = divide(y_, sites_.pitch()); });
-        trap([&] { centre_i_ = to_i16(cells_x + sites_.half()); });
-        trap([&] { centre_j_ = to_i16(cells_y + sites_.half()); });
+        step("cells", [&] { cells_x = divide(x_, sites_.pitch()); });
+        step("cells", [&] { cells_y = divide(y_, sites_.pitch()); });
+        step("centre cell", [&] { centre_i_ = to_i16(cells_x + sites_.half()); });
+        step("centre cell", [&] { centre_j_ = to_i16(cells_y + sites_.half()); });
         radius_ = std::min(distance_to_whole(cells_x), distance_to_whole(cells_y));
     }
 
     void offer_cell(std::int32_t i, std::int32_t j)
     {
         for (std::int32_t const item : sites_.items(i, j)) {
-            trap([&] { distance_ = sites_.distance(item + 1, x_, y_); });
+            step("distance of a site", [&] { distance_ = sites_.distance(item + 1, x_, y_); });
             slots_.offer(distance_, item + 1, 2 * scale_);
         }
     }
@@ -141,6 +152,7 @@ private:
         return has_passed(centre_i_) && has_passed(centre_j_);
     }
 
+    panel const& record_;
     BucketSearch sites_;
     double x_, y_;
     double scale_ = 0;
@@ -153,7 +165,7 @@ private:
 double scan_or_0(panel const& record, double x, double y)
 {
     double result = 0;
-    trap([&] { result = record.Interpolation_Einfach(x, y); });
+    trap(place_of(record, "scan of all sites"), [&] { result = record.Interpolation_Einfach(x, y); });
     return result;
 }
 

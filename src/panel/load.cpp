@@ -125,13 +125,14 @@ LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<doub
                        HostArray<double> const& Z, bool keep_limits)
 {
     LoadResult result = LoadResult::RunTimeFailure;
-    trap([&] { result = load_checked_arrays(record, x, y, Z, keep_limits); });
+    trap({record.container, record, "SetPanelData", "load"},
+         [&] { result = load_checked_arrays(record, x, y, Z, keep_limits); });
     return result;
 }
 
 LoadResult load_file(panel& record, std::string const& datafile, double nops, bool keep_limits)
 {
-    bool const is_done = trap([&] {
+    bool const is_done = trap({record.container, record, "SetDataFile", "load"}, [&] {
         PlotLimits const limits(record, keep_limits);
         record.reset();
         record.SetNop(nops);

@@ -3,12 +3,10 @@
 #include "zendara/support/boolean_word.hpp"
 #include "zendara/support/color.hpp"
 #include "zendara/support/host_array.hpp"
-#include "zendara/support/locale.hpp"
 #include "zendara/support/object.hpp"
 #include "zendara/support/value.hpp"
 
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,6 +15,7 @@
 namespace zendara
 {
 
+class Container;
 class Surface;
 class LineWidget;
 class Widget;
@@ -284,8 +283,8 @@ public:
 
     Interface const& host_interface() const override;
 
-    /// What shows a plot's message box: text, style, title. The container's, nothing where there is none.
-    std::function<void(std::string_view, int, std::string_view)> show_message;
+    /// The container that the panel works in: it shows messages, and hears of trapped failures. nullptr for none.
+    Container* container = nullptr;
 
 private:
     friend class BucketSearch; // the plain and the fast form of Interpolation
@@ -300,7 +299,6 @@ private:
     void lay_buckets_out(std::span<std::int16_t const> cell_i, std::span<std::int16_t const> cell_j);
     void copy_sites_beside_items();
 
-    [[maybe_unused]] bool const has_read_decimal_separator_ = (read_decimal_separator(), true);
     double nop_ = 0;
     double grid_next_ = 1;
     // One element per site; the index is 1-based at the interface.

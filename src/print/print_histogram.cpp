@@ -5,12 +5,22 @@
 namespace zendara
 {
 
+namespace
+{
+
+TrapPlace place_of(panel const& record, char const* step)
+{
+    return {record.container, record, "Print_Histo", step};
+}
+
+} // namespace
+
 void PrintPanel::Print_Histo(std::int16_t plott, panel& panobj, double left, double top, double width, double height,
                              double stat_resol, double, std::string const& caption, BooleanWord drawfr)
 {
     constexpr double below_caption = 600;
     if (drawfr)
-        trap([&] { DrawFrame(caption, left, top, width, height); });
+        trap(place_of(panobj, "frame"), [&] { DrawFrame(caption, left, top, width, height); });
     print_histogram(plott, panobj, {left, top, width, height}, below_caption, stat_resol);
 }
 
@@ -26,15 +36,15 @@ void PrintPanel::print_histogram(std::int16_t plott, panel& panobj, PaperBox con
 {
     constexpr double padding_share = 0.08; // of the width, to the left and to the right
     double padding = 0;
-    trap([&] { padding = to_i16(padding_share * box.width); });
-    trap([&] { ResetPrinterObj(); });
+    trap(place_of(panobj, "padding"), [&] { padding = to_i16(padding_share * box.width); });
+    trap(place_of(panobj, "reset"), [&] { ResetPrinterObj(); });
     // Twice and a fifth that length is left below the plot, for texts.
-    trap([&] {
+    trap(place_of(panobj, "box"), [&] {
         surface().Box(box.left + padding, box.top + lower_by, box.left + box.width - padding,
                       box.top + box.height - 2.2 * lower_by, QBColor(1));
     });
-    trap([&] { surface().ScaleMode(scale_pixels); });
-    trap([&] {
+    trap(place_of(panobj, "unit"), [&] { surface().ScaleMode(scale_pixels); });
+    trap(place_of(panobj, "plot"), [&] {
         // All of these come back converted to pixels.
         double x0 = box.left + padding;
         double y0 = box.top + lower_by;
@@ -48,8 +58,8 @@ void PrintPanel::print_histogram(std::int16_t plott, panel& panobj, PaperBox con
         panobj.Statistic(plot_type, surface(), surface(), x0, y0, width, height, stat_resol, tick, plot_left, plot_top,
                          for_paper);
     });
-    trap([&] { surface().ScaleMode(scale_twips); });
-    trap([&] { ResetPrinterObj(); });
+    trap(place_of(panobj, "unit"), [&] { surface().ScaleMode(scale_twips); });
+    trap(place_of(panobj, "reset"), [&] { ResetPrinterObj(); });
 }
 
 } // namespace zendara

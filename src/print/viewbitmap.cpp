@@ -99,7 +99,7 @@ void viewbitmap::draw_title(std::int16_t y, std::int16_t width)
     FontFace& font = bitmap().Font;
     font.Bold = !font.Bold;
     font.size = 12;
-    std::string title = "Zendara View.OCX " + major_and_minor(platform_.version());
+    std::string title = "Zendara View.OCX " + major_and_minor(container_.version());
     DrawBitmapText(title, first_column, y, width, 0);
     font.Bold = !font.Bold;
     font.size = 10;

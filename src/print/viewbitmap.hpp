@@ -1,8 +1,8 @@
 #pragma once
 
-#include "zendara/form/platform.hpp"
 #include "zendara/panel/panel.hpp"
 #include "zendara/render/surface/surface.hpp"
+#include "zendara/support/container.hpp"
 
 #include <cstdint>
 #include <string>
@@ -20,8 +20,8 @@ struct BlockRow;
 class viewbitmap : public Object
 {
 public:
-    /// @param platform  tells the version that the title shows; has to outlive the object
-    explicit viewbitmap(Platform const& platform) : platform_(platform) {}
+    /// @param container  tells the version that the title shows; has to outlive the object
+    explicit viewbitmap(Container const& container) : container_(container) {}
 
     /// The picture and the panel; the host keeps them alive. nullptr for none.
     void BitmapObj(Surface* picture) { bitmap_ = picture; }
@@ -53,7 +53,7 @@ private:
     void draw_title(std::int16_t y, std::int16_t width);
     void draw_block(std::string title, std::vector<BlockRow> const& rows, std::int16_t x, std::int16_t y);
 
-    Platform const& platform_;
+    Container const& container_;
     Surface* bitmap_ = nullptr;
     panel* wafer_ = nullptr;
 };

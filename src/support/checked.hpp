@@ -28,7 +28,7 @@ template <class Integer> Integer to_integer(double value, char const* which)
     double const whole = round_half_even(value);
     // Written so that NaN fails too.
     if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max()))
-        fail(FailureKind::Overflow, which);
+        fail(FailureKind::Overflow, which, value);
     return static_cast<Integer>(whole);
 }
 
@@ -53,7 +53,7 @@ inline std::int32_t to_i32(double value)
 inline double finite(double value)
 {
     if (!std::isfinite(value))
-        fail(FailureKind::Overflow, "the result of a calculation is not finite");
+        fail(FailureKind::Overflow, "the result of a calculation is not finite", value);
     return value;
 }
 
@@ -62,7 +62,7 @@ inline double finite(double value)
 inline float to_f32(double value)
 {
     if (!(std::abs(value) <= static_cast<double>(std::numeric_limits<float>::max())))
-        fail(FailureKind::Overflow, "a number does not fit into a 32-bit float");
+        fail(FailureKind::Overflow, "a number does not fit into a 32-bit float", value);
     return static_cast<float>(value);
 }
 
@@ -71,7 +71,7 @@ inline float to_f32(double value)
 inline double divide(double dividend, double divisor)
 {
     if (divisor == 0)
-        fail(FailureKind::DivisionByZero, "a divisor is 0");
+        fail(FailureKind::DivisionByZero, "a number is divided by 0", dividend);
     return finite(dividend / divisor);
 }
 

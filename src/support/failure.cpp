@@ -1,5 +1,7 @@
 #include "zendara/support/failure.hpp"
 
+#include <cstdio>
+
 namespace zendara
 {
 
@@ -29,6 +31,13 @@ std::string_view name_of(FailureKind kind)
 void fail(FailureKind kind, char const* which)
 {
     throw Failure(kind, which);
+}
+
+void fail(FailureKind kind, char const* which, double value)
+{
+    char number[32];
+    std::snprintf(number, sizeof number, "%.10g", value);
+    throw Failure(kind, std::string(which) + ": " + number);
 }
 
 } // namespace zendara

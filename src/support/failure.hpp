@@ -36,5 +36,7 @@ private:
 
 /// Out of line, so that a check costs its caller one compare and a cold jump.
 [[noreturn]] void fail(FailureKind kind, char const* which);
+/// The message names the value that was wrong as well.
+[[noreturn]] void fail(FailureKind kind, char const* which, double value);
 
 } // namespace zendara

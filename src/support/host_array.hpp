@@ -76,7 +76,7 @@ private:
         // One unsigned compare catches both ends.
         auto const offset = static_cast<std::size_t>(std::int64_t{index} - lower_);
         if (offset >= values_.size())
-            fail(FailureKind::SubscriptOutOfRange, "an index lies outside its array");
+            fail(FailureKind::SubscriptOutOfRange, "an index lies outside its array", index);
         return offset;
     }
 

@@ -1,7 +1,7 @@
 #include "zendara/support/number_text.hpp"
 
 #include "zendara/support/checked.hpp"
-#include "zendara/support/locale.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <algorithm>
 #include <cmath>

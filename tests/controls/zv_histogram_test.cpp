@@ -1,7 +1,7 @@
 #include "control_fixture.hpp"
 #include "zendara/controls/zv_histogram.hpp"
 #include "zendara/form/line_shape.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 namespace zendara::test
 {
@@ -18,7 +18,7 @@ struct NewHistogram : testing::Test {
     HostedHistogram host;
     ZvHistogram& control = host.control;
 
-    void TearDown() override { histogram_limits() = {}; }
+    void TearDown() override { set_histogram_limits({}); }
 
     bool has_drawn() { return !only(host.take_record("PLOTA"), "FillBox").empty(); }
 };

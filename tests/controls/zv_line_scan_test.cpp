@@ -1,4 +1,5 @@
 #include "control_fixture.hpp"
+#include "listening_container.hpp"
 #include "support/failure_kind.hpp"
 #include "zendara/controls/zv_line_scan.hpp"
 
@@ -313,13 +314,11 @@ TEST_F(NewScan, DrawsUnderTheHourglass)
 {
     load(control, six_sites);
     control.SetLineOrAngle(2, 0, 0, 0, 0, 300, 10, 310); // outside: messages tell of the drawing
-    int messages = 0;
-    control.record().show_message = [&](std::string_view, int, std::string_view) {
-        ++messages;
-        EXPECT_EQ(control.MousePointer(), 11);
-    };
+    ListeningContainer container;
+    container.on_message = [&] { EXPECT_EQ(control.MousePointer(), 11); };
+    control.record().container = &container;
     control.Plot();
-    EXPECT_EQ(messages, 5); // the layout's curve, the labels, twice the indicator, the curve
+    EXPECT_EQ(container.messages.size(), 5u); // the layout's curve, the labels, twice the indicator, the curve
     EXPECT_EQ(control.MousePointer(), 0);
 }
 

@@ -36,7 +36,7 @@ inline void store(panel& record, Sample const& sample)
 inline void fill(panel& record, Sample const& sample)
 {
     store(record, sample);
-    trap([&] { record.MaxMin(); });
+    trap({nullptr, record, "test", "statistics"}, [&] { record.MaxMin(); });
 }
 
 inline std::uint64_t bits(double value)

@@ -282,7 +282,7 @@ TEST(InterpolationForms, AreEqualAfterAFailedBuildAndOnOddSizes)
         record.SizeX = size_x;
         record.SizeY = size_y;
         expect_forms_equal(record, points, "size changed after the build");
-        trap([&] { record.MaxMin(); });
+        trap({nullptr, record, "test", "statistics"}, [&] { record.MaxMin(); });
         expect_forms_equal(record, points, "size changed ahead of a build");
     }
 }

@@ -1,5 +1,5 @@
 #include "zendara/panel/panel.hpp"
-#include "zendara/support/locale.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -52,14 +52,12 @@ TEST(Panel, ANewOneHasTheTenIntervalColoursAndNoData)
     EXPECT_TRUE(std::holds_alternative<Empty>(record.HiLo));
 }
 
-TEST(Panel, CreationReadsTheDecimalSeparatorUnlessAPlatformHasSetIt)
+TEST(Panel, CreationLeavesTheDecimalSeparatorAsItIs)
 {
     set_decimal_separator("#");
     panel const record;
     EXPECT_EQ(decimal_separator(), "#");
     set_decimal_separator("");
-    panel const other;
-    EXPECT_EQ(decimal_separator(), ".");
 }
 
 TEST(SetNop, GivesAllSitesZeroAndForgetsTheOldOnes)

@@ -1,5 +1,5 @@
 #include "page_fixture.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 namespace zendara::test
 {

@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "panels.hpp"
 #include "support/failure_kind.hpp"
 #include "trace_text.hpp"
@@ -131,13 +132,13 @@ TEST(D1Plot, ThreeSitesDrawNothingAndLeaveTheScaleAlone)
 TEST(D1Plot, ALineOutsideThePanelDrawsNothing)
 {
     auto const record = make_panel(300, 200, five_sites);
-    int messages = 0;
-    record->show_message = [&](std::string_view, int, std::string_view) { ++messages; };
+    ListeningContainer container;
+    record->container = &container;
     Call call;
     call.is_angle = 0;
     call.x1 = 0, call.y1 = 300, call.x2 = 10, call.y2 = 310;
     EXPECT_TRUE(plot(*record, call).empty());
-    EXPECT_EQ(messages, 1);
+    EXPECT_EQ(container.messages.size(), 1u);
 }
 
 TEST(D1Plot, ValuesBeyondThePlotLimitsRunOutOfTheRectangle)

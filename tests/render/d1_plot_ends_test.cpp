@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "panels.hpp"
 #include "support/failure_kind.hpp"
 
@@ -28,14 +29,9 @@ std::ostream& operator<<(std::ostream& out, Ends const& ends)
 /// A panel without sites that keeps its messages.
 struct Area {
     std::unique_ptr<panel> record;
-    std::vector<std::string> messages;
+    ListeningContainer container;
 
-    Area(double width, double height) : record(make_panel(width, height, {}))
-    {
-        record->show_message = [this](std::string_view text, int style, std::string_view title) {
-            messages.push_back(std::string(text) + '|' + std::to_string(style) + '|' + std::string(title));
-        };
-    }
+    Area(double width, double height) : record(make_panel(width, height, {})) { record->container = &container; }
 
     Ends at_angle(double x, double y, std::int16_t phi)
     {
@@ -78,7 +74,7 @@ void expect_near(Ends const& actual, Ends const& expected, std::string const& wh
     EXPECT_NEAR(actual.end_y, expected.end_y, float_error) << which;
 }
 
-std::vector<std::string> const one_message = {"Value not applicable. Line outside panel.|0|"};
+std::vector<ListeningContainer::Message> const one_message = {{"Value not applicable. Line outside panel.", 0, ""}};
 
 } // namespace
 
@@ -99,7 +95,7 @@ TEST(ScanEndsByAngle, AxisLinesAreNeitherClippedNorRoundedNorEverMissed)
     Area area(300, 200);
     EXPECT_EQ(area.at_angle(1000.1, 7, 0), (Ends{1000.1, -100, 1000.1, 100}));
     EXPECT_EQ(area.at_angle(5, -999.9, 90), (Ends{150, -999.9, -150, -999.9}));
-    EXPECT_TRUE(area.messages.empty());
+    EXPECT_TRUE(area.container.messages.empty());
 }
 
 TEST(ScanEndsByAngle, At45DegreesASquareIsCrossedFromCornerToCorner)
@@ -107,7 +103,7 @@ TEST(ScanEndsByAngle, At45DegreesASquareIsCrossedFromCornerToCorner)
     Area area(200, 200);
     EXPECT_EQ(area.at_angle(0, 0, 45), (Ends{100, -100, -100, 100}));
     EXPECT_EQ(area.at_angle(0, 0, 225), (Ends{-100, 100, 100, -100}));
-    EXPECT_TRUE(area.messages.empty());
+    EXPECT_TRUE(area.container.messages.empty());
 }
 
 TEST(ScanEndsByAngle, EveryAngleRunsInItsOwnDirectionFromEdgeToEdge)
@@ -122,7 +118,7 @@ TEST(ScanEndsByAngle, EveryAngleRunsInItsOwnDirectionFromEdgeToEdge)
         ASSERT_TRUE(expected);
         expect_near(area.at_angle(x1, y1, phi), *expected, "phi " + std::to_string(phi));
     }
-    EXPECT_TRUE(area.messages.empty());
+    EXPECT_TRUE(area.container.messages.empty());
 }
 
 TEST(ScanEndsByAngle, AnAngleBeyondTheCircleTakesTheGeneralWay)
@@ -130,7 +126,7 @@ TEST(ScanEndsByAngle, AnAngleBeyondTheCircleTakesTheGeneralWay)
     Area area(300, 200);
     // 450 degrees: the slope is next to nothing, both side edges are hit at one height, and that counts as one hit.
     EXPECT_EQ(area.at_angle(0, 7, 450), (Ends{-150, 7, -150, 7}));
-    EXPECT_EQ(area.messages, one_message);
+    EXPECT_EQ(area.container.messages, one_message);
     EXPECT_EQ(failure_of([&] { area.at_angle(0, 7, -90); }), FailureKind::DivisionByZero);
     expect_near(area.at_angle(3, 4, 405), area.at_angle(3, 4, 225), "the line of 45 degrees, from the left");
 }
@@ -201,17 +197,17 @@ TEST(ScanEndsByPoints, RandomLinesAgreeWithTheRangeOfTheirParameter)
         auto const outer = clipped(150.1, 100.1, x1, y1, x2 - x1, y2 - y1);
         if (inner.has_value() != outer.has_value())
             continue;
-        area.messages.clear();
+        area.container.messages.clear();
         Ends const ends = area.through(x1, y1, x2, y2);
         std::string const which = "line " + std::to_string(i);
         if (!inner) {
             ++misses;
-            EXPECT_EQ(area.messages, one_message) << which;
+            EXPECT_EQ(area.container.messages, one_message) << which;
             EXPECT_EQ(ends, (Ends{0, 0, 0, 0})) << which;
             continue;
         }
         ++hits;
-        EXPECT_TRUE(area.messages.empty()) << which;
+        EXPECT_TRUE(area.container.messages.empty()) << which;
         auto const expected = clipped(150, 100, x1, y1, x2 - x1, y2 - y1);
         if (std::abs(x2 - x1) > 1) // a steeper line would ask for a wider tolerance
             expect_near(ends, *expected, which);
@@ -226,7 +222,7 @@ TEST(ScanThatMisses, CollapsesToTheCentreAndShowsTheMessage)
 {
     Area area(300, 200);
     EXPECT_EQ(area.through(0, 300, 10, 310), (Ends{0, 0, 0, 0}));
-    EXPECT_EQ(area.messages, one_message);
+    EXPECT_EQ(area.container.messages, one_message);
 }
 
 TEST(ScanThatMisses, ALineThatGrazesOneCornerCollapsesToIt)
@@ -234,20 +230,20 @@ TEST(ScanThatMisses, ALineThatGrazesOneCornerCollapsesToIt)
     Area area(300, 200);
     EXPECT_EQ(area.through(150, 100, 151, 99), (Ends{150, 100, 150, 100}));
     EXPECT_EQ(area.through(-150, -100, -151, -99), (Ends{-150, -100, -150, -100}));
-    EXPECT_EQ(area.messages.size(), 2u);
+    EXPECT_EQ(area.container.messages.size(), 2u);
 }
 
 TEST(ScanThatMisses, TwoEqualHitsAreNone)
 {
     Area area(0, 0);
     EXPECT_EQ(area.through(-1, -1, 1, 1), (Ends{0, 0, 0, 0}));
-    EXPECT_EQ(area.messages, one_message);
+    EXPECT_EQ(area.container.messages, one_message);
 }
 
 TEST(ScanThatMisses, NeedsNobodyWhoShowsTheMessage)
 {
     Area area(300, 200);
-    area.record->show_message = nullptr;
+    area.record->container = nullptr;
     EXPECT_EQ(area.through(0, 300, 10, 310), (Ends{0, 0, 0, 0}));
 }
 

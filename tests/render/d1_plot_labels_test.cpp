@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "panels.hpp"
 #include "scan_widgets.hpp"
 #include "support/failure_kind.hpp"
@@ -127,11 +128,11 @@ TEST(D1Plot_Show_lblXY, IsWrittenWithoutAnySite)
 TEST(D1Plot_Show_lblXY, ALineOutsideThePanelShowsOnePointFiveTimesAndTheMessageOnce)
 {
     auto const record = panel_with_scale(0, 1);
-    int messages = 0;
-    record->show_message = [&](std::string_view, int, std::string_view) { ++messages; };
+    ListeningContainer container;
+    record->container = &container;
     Labels labels(*record, Form::through(0, 300, 10, 310));
     EXPECT_EQ(Labels::captions(labels.x), Captions(5, "X=0.00\nY=0.00"));
-    EXPECT_EQ(messages, 1);
+    EXPECT_EQ(container.messages.size(), 1u);
 }
 
 // --- Indicator -----------------------------------------------------------------------------------------------------
@@ -212,11 +213,11 @@ TEST(draw_indicator, PutsTheTestedAreaBackAndDrawsNothing)
 TEST(draw_indicator, ALineOutsideThePanelShowsTheMessageTwice)
 {
     auto const record = make_panel(300, 200, {});
-    int messages = 0;
-    record->show_message = [&](std::string_view, int, std::string_view) { ++messages; };
+    ListeningContainer container;
+    record->container = &container;
     Indicator indicator;
     indicator.show(*record, Form::through(0, 300, 10, 310));
-    EXPECT_EQ(messages, 2);
+    EXPECT_EQ(container.messages.size(), 2u);
     indicator.expect_line(32, 22, 32, 22);
 }
 

@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "panels.hpp"
 #include "scan_widgets.hpp"
 #include "support/failure_kind.hpp"
@@ -187,12 +188,12 @@ TEST(D1Plot_MarkSites, ThreeSitesChangeNothingOnTheScreen)
 TEST(D1Plot_MarkSites, ALineOutsideThePanelHidesTheMarksAndShowsTheMessage)
 {
     auto const record = make_panel(300, 200, five_sites);
-    int messages = 0;
-    record->show_message = [&](std::string_view, int, std::string_view) { ++messages; };
+    ListeningContainer container;
+    record->container = &container;
     Screen screen;
     screen.mark(*record, Call::through(0, 300, 10, 310));
     EXPECT_TRUE(screen.centres().empty());
-    EXPECT_EQ(messages, 1);
+    EXPECT_EQ(container.messages.size(), 1u);
 }
 
 TEST(D1Plot_MarkSites, OnPaperAMarkIsAFilledCircle)

@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "panels.hpp"
 #include "support/failure_kind.hpp"
 #include "trace_text.hpp"
@@ -311,22 +312,14 @@ Texts segments(std::vector<double> values, double level)
     return texts;
 }
 
-struct MessageBox {
-    std::string text;
-    int style;
-    std::string title;
-};
-
 /// The message boxes of one contour plot.
-std::vector<MessageBox> messages_of(panel& record, Call const& call)
+std::vector<ListeningContainer::Message> messages_of(panel& record, Call const& call)
 {
-    std::vector<MessageBox> messages;
-    record.show_message = [&](std::string_view text, int style, std::string_view title) {
-        messages.push_back({std::string(text), style, std::string(title)});
-    };
+    ListeningContainer container;
+    record.container = &container;
     contour(record, call);
-    record.show_message = nullptr;
-    return messages;
+    record.container = nullptr;
+    return container.messages;
 }
 
 // Of a picture of 400 by 300 pixels.

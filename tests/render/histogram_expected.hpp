@@ -1,7 +1,7 @@
 #pragma once
 
 #include "histogram_drawing.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 namespace zendara::test
 {

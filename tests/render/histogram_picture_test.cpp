@@ -80,7 +80,7 @@ void expect_on_paper(Recorder& paper, Sample const& sample, HistogramCall call)
 }
 
 struct HistogramPicture : testing::TestWithParam<std::int16_t> {
-    void TearDown() override { histogram_limits() = {}; }
+    void TearDown() override { set_histogram_limits({}); }
 
     HistogramCall call(double stat_resol) const
     {
@@ -133,7 +133,7 @@ TEST_P(HistogramPicture, OnAPictureInThePlaceOfAPrinterIsTheObviousOne)
 
 TEST_P(HistogramPicture, WithTheControlLimitsOfTheProcessIsTheObviousOne)
 {
-    histogram_limits() = {true, 460, 1e6};
+    set_histogram_limits({true, 460, 1e6});
     for (auto const& sample : samples)
         expect_on_screen(sample, call(10));
     auto const printer = Recorder::printer(2.4, 2.4);

@@ -1,6 +1,7 @@
 #include "histogram_drawing.hpp"
+#include "listening_container.hpp"
 #include "zendara/render/plots/histogram_plot.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <set>
 
@@ -12,7 +13,7 @@ namespace
 
 /// Leaves no limits behind for other tests.
 struct Histogram : testing::Test {
-    void TearDown() override { histogram_limits() = {}; }
+    void TearDown() override { set_histogram_limits({}); }
 };
 
 using Texts = std::vector<std::string>;
@@ -293,7 +294,7 @@ TEST_F(Histogram, TheUprightFormShowsTheLimitsOfThePanelAlone)
     auto const record = panel_of({10, 20, 30, 40, 50});
     record->vLcl = 15;
     record->vUcl = 70; // beyond the axis
-    histogram_limits() = {true, 22, 33};
+    set_histogram_limits({true, 22, 33});
     auto const drawing = draw_on_screen(*record, {});
     auto const limits = lines_of(drawing.plot, QBColor(1), 2);
     ASSERT_EQ(limits.size(), 2u);
@@ -321,7 +322,7 @@ TEST_F(Histogram, TheCrosswiseFormShowsTheLimitsOfTheProcessAlone)
     record->vLcl = 15;
     record->vUcl = 35;
     EXPECT_TRUE(lines_of(draw_on_screen(*record, call_of_type(3)).plot, 0x800000, 1).empty());
-    histogram_limits() = {true, 20, 20}; // equal ones count as well
+    set_histogram_limits({true, 20, 20}); // equal ones count as well
     auto const drawing = draw_on_screen(*record, call_of_type(3));
     auto const limits = lines_of(drawing.plot, 0x800000, 1);
     ASSERT_EQ(limits.size(), 2u);
@@ -412,7 +413,13 @@ TEST_F(Histogram, TypesThreeAndFourAreTheCrosswiseForms)
 TEST_F(Histogram, ACurveOnTheScreenBringsTheDefaultPrinterToItsInitialState)
 {
     auto const printer = Recorder::printer(2.4, 2.4);
-    DefaultPrinterScope const scope(printer.get());
+    ListeningContainer container;
+    container.printer = printer.get();
+    auto const listened = [&](std::vector<double> const& values) {
+        auto record = panel_of(values);
+        record->container = &container;
+        return record;
+    };
     auto const spoil = [&] {
         printer->FontTransparent = false;
         printer->Font = {"Courier", 20};
@@ -421,7 +428,7 @@ TEST_F(Histogram, ACurveOnTheScreenBringsTheDefaultPrinterToItsInitialState)
     };
     for (std::int16_t type = 1; type <= 4; ++type) {
         spoil();
-        draw_on_screen(*panel_of({10, 20, 30, 40}), call_of_type(type));
+        draw_on_screen(*listened({10, 20, 30, 40}), call_of_type(type));
         EXPECT_TRUE(printer->FontTransparent);
         EXPECT_EQ(printer->Font, (FontFace{"Arial", 8}));
         EXPECT_EQ(printer->DrawWidth, 1);
@@ -430,28 +437,12 @@ TEST_F(Histogram, ACurveOnTheScreenBringsTheDefaultPrinterToItsInitialState)
         EXPECT_EQ(printer->FillColor, QBColor(15));
         EXPECT_EQ(printer->ForeColor, QBColor(0));
         spoil();
-        draw_on_screen(*panel_of({7, 7, 7, 7}), call_of_type(type)); // no curve
+        draw_on_screen(*listened({7, 7, 7, 7}), call_of_type(type)); // no curve
         EXPECT_EQ(printer->ForeColor, 77);
     }
     auto const other = Recorder::printer(2.4, 2.4);
-    draw_on(*other, *panel_of({10, 20, 30, 40}), paper_call(1));
+    draw_on(*other, *listened({10, 20, 30, 40}), paper_call(1));
     EXPECT_EQ(printer->ForeColor, 77);
-}
-
-TEST(DefaultPrinter, IsThatOfTheLatestScopeWhateverTheOrderOfTheirEnds)
-{
-    auto const first = Recorder::printer(1, 1);
-    auto const second = Recorder::printer(2, 2);
-    auto outer = std::make_unique<DefaultPrinterScope>(first.get());
-    DefaultPrinterScope const none(nullptr);
-    EXPECT_EQ(default_printer(), first.get());
-    {
-        DefaultPrinterScope const inner(second.get());
-        EXPECT_EQ(default_printer(), second.get());
-        outer.reset();
-        EXPECT_EQ(default_printer(), second.get());
-    }
-    EXPECT_EQ(default_printer(), nullptr);
 }
 
 // --- Failures ------------------------------------------------------------------------------------------------------

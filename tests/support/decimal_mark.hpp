@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zendara/support/locale.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <string>
 

@@ -1,10 +1,15 @@
+#include "listening_container.hpp"
+#include "zendara/support/checked.hpp"
 #include "zendara/support/failure.hpp"
+#include "zendara/support/object.hpp"
 #include "zendara/support/trap.hpp"
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <set>
 #include <stdexcept>
+#include <vector>
 
 using namespace zendara;
 
@@ -40,38 +45,84 @@ TEST(Failure, CarriesItsKindAndItsMessage)
     }
 }
 
+namespace
+{
+
+/// A routine of an object in a container that listens.
+class Routine : public Object
+{
+public:
+    Interface const& host_interface() const override { throw std::logic_error("nobody asks"); }
+
+    test::ListeningContainer container;
+    TrapPlace place() { return {&container, *this, "Plot", "zoom"}; }
+    TrapPlace unheard() { return {nullptr, *this, "Plot", "zoom"}; }
+};
+
+} // namespace
+
 TEST(Trap, AnswersWhetherTheStepRanToItsEnd)
 {
-    EXPECT_TRUE(trap([] {}));
-    EXPECT_FALSE(trap([] { fail(FailureKind::Overflow, "too large"); }));
+    Routine routine;
+    EXPECT_TRUE(trap(routine.unheard(), [] {}));
+    EXPECT_FALSE(trap(routine.unheard(), [] { fail(FailureKind::Overflow, "too large"); }));
 }
 
 TEST(Trap, KeepsWhatTheStepDidBeforeItFailed)
 {
+    Routine routine;
     int done = 0;
-    trap([&] {
+    trap(routine.unheard(), [&] {
         done = 1;
         fail(FailureKind::Overflow, "too large");
     });
     EXPECT_EQ(done, 1);
 }
 
+TEST(Trap, TellsTheContainerOfKindStepAndValue)
+{
+    Routine routine;
+    trap(routine.place(), [] {});
+    EXPECT_TRUE(routine.container.failures.empty());
+    trap(routine.place(), [] { to_i16(40000); });
+    ASSERT_EQ(routine.container.failures.size(), 1u);
+    EXPECT_EQ(routine.container.failures[0].kind, FailureKind::Overflow);
+    EXPECT_EQ(routine.container.failures[0].where, "Plot: zoom");
+    EXPECT_EQ(routine.container.failures[0].what, "a number does not fit into 16 bits: 40000");
+}
+
+TEST(Trap, TakesExhaustedMemoryAndEndlessLengthsForOverflow)
+{
+    Routine routine;
+    EXPECT_FALSE(trap(routine.place(), [] { throw std::bad_alloc(); }));
+    EXPECT_FALSE(trap(routine.place(), [] { std::vector<double>().reserve(std::size_t{1} << 62); }));
+    ASSERT_EQ(routine.container.failures.size(), 2u);
+    for (auto const& failure : routine.container.failures)
+        EXPECT_EQ(failure.kind, FailureKind::Overflow);
+}
+
 TEST(Trap, RunsTheRepairAfterAFailureAlone)
 {
+    Routine routine;
     int repairs = 0;
-    EXPECT_TRUE(trap([] {}, [&] { ++repairs; }));
+    EXPECT_TRUE(trap(
+        routine.place(), [] {}, [&] { ++repairs; }));
     EXPECT_EQ(repairs, 0);
-    EXPECT_FALSE(trap([] { fail(FailureKind::DivisionByZero, "0"); }, [&] { ++repairs; }));
+    EXPECT_FALSE(trap(
+        routine.place(), [] { fail(FailureKind::DivisionByZero, "0"); }, [&] { ++repairs; }));
     EXPECT_EQ(repairs, 1);
 }
 
 TEST(Trap, LetsOtherExceptionsThrough)
 {
-    EXPECT_THROW(trap([] { throw std::logic_error("a fault of the program"); }), std::logic_error);
+    Routine routine;
+    EXPECT_THROW(trap(routine.place(), [] { throw std::logic_error("a fault of the program"); }), std::logic_error);
+    EXPECT_TRUE(routine.container.failures.empty());
 }
 
 TEST(Trap, LetsAFailureOfTheRepairThrough)
 {
+    Routine routine;
     auto const fails = [] { fail(FailureKind::Overflow, "too large"); };
-    EXPECT_THROW(trap(fails, fails), Failure);
+    EXPECT_THROW(trap(routine.place(), fails, fails), Failure);
 }

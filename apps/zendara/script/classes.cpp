@@ -47,9 +47,7 @@ using Made = std::unique_ptr<Object>;
 Made make_panel(Json const&, HeadlessPlatform& platform)
 {
     auto record = std::make_unique<panel>();
-    record->show_message = [&platform](std::string_view text, int style, std::string_view title) {
-        platform.message_box(text, style, title);
-    };
+    record->container = &platform;
     return record;
 }
 

@@ -188,6 +188,21 @@ void messages(Session& session, Step const&)
     session.print("messages", std::move(list));
 }
 
+/// What has trapped failures: a control's are those of its panel.
+Object const& trap_source(Object& object)
+{
+    auto* const control = object_cast<Control>(&object);
+    return control != nullptr ? control->record() : object;
+}
+
+void failures(Session& session, Step const& step)
+{
+    Json list = Json::array();
+    for (auto const& failure : session.platform().take_failures(trap_source(object_at(session, step, 1))))
+        list.push_back({{"kind", name_of(failure.kind)}, {"where", failure.where}, {"what", failure.what}});
+    session.print("failures", std::move(list));
+}
+
 void modal(Session& session, Step const& step)
 {
     session.queue_modal(step);
@@ -221,7 +236,7 @@ void picture(Session& session, Step const& step)
     write_png(image_of(object_at(session, step, 1), session.platform()), text_at(step, 2));
 }
 
-constexpr std::array<StepKind, 14> kinds = {{
+constexpr std::array<StepKind, 15> kinds = {{
     {"new", "nn?", R"(["new", NAME, CLASS, {options}])", make},
     {"put", "nnv", R"(["put", OBJ, MEMBER, VALUE])", put},
     {"get", "nn", R"(["get", OBJ, MEMBER])", get},
@@ -236,6 +251,7 @@ constexpr std::array<StepKind, 14> kinds = {{
     {"save", "nn", R"(["save", CONTROL, BAG])", save},
     {"load", "nn", R"(["load", CONTROL, BAG])", load},
     {"picture", "nn", R"(["picture", OBJ, FILE])", picture},
+    {"failures", "n", R"(["failures", OBJ])", failures},
 }};
 
 } // namespace

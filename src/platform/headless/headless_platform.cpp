@@ -3,7 +3,7 @@
 #include "zendara/form/form.hpp"
 #include "zendara/render/surface/raster_picture.hpp"
 #include "zendara/support/checked.hpp"
-#include "zendara/support/locale.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <clocale>
 #include <langinfo.h>
@@ -67,6 +67,19 @@ std::vector<HeadlessPlatform::MessageBox> HeadlessPlatform::take_messages()
 void HeadlessPlatform::message_box(std::string_view text, int style, std::string_view title)
 {
     messages_.push_back({std::string(title), std::string(text), style});
+}
+
+std::vector<TrappedFailure> HeadlessPlatform::take_failures(Object const& source)
+{
+    return std::exchange(failures_[&source], {});
+}
+
+void HeadlessPlatform::trapped(Object const& source, TrappedFailure const& failure)
+{
+    constexpr std::size_t most_kept = 1000;
+    auto& kept = failures_[&source];
+    if (kept.size() < most_kept)
+        kept.push_back(failure);
 }
 
 void HeadlessPlatform::do_events()

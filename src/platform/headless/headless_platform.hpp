@@ -4,8 +4,10 @@
 #include "zendara/form/children.hpp"
 #include "zendara/form/platform.hpp"
 #include "zendara/render/surface/recorder.hpp"
+#include "zendara/support/trap.hpp"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,7 @@ namespace zendara
 enum class Pictures { Drawn, Recorded };
 
 /// A container without a screen: pictures in memory, message boxes kept in a list, modal forms driven by a handler.
-class HeadlessPlatform : public Platform
+class HeadlessPlatform : public Platform, FailureSink
 {
 public:
     /// @param pictures  Recorded: every surface keeps its drawing calls, texts have fixed extents and the decimal mark
@@ -31,6 +33,10 @@ public:
     /// Hands over and forgets the message boxes that were shown.
     std::vector<MessageBox> take_messages();
 
+    /// Hands over and forgets the failures that the routines of a panel, a control (its panel's) or a dialog have
+    /// trapped. Of each no more than the first thousand are kept: a plot whose every cell fails has no news after them.
+    std::vector<TrappedFailure> take_failures(Object const& source);
+
     /// Stands in for the user while a modal form is up; without it the form is cancelled.
     std::function<void(Form&)> on_modal;
     /// Stands in for the messages that one turn of the message loop lets in.
@@ -42,6 +48,7 @@ public:
     Pictures pictures() const { return pictures_; }
 
     void message_box(std::string_view text, int style, std::string_view title) override;
+    FailureSink* failure_sink() override { return this; }
     void do_events() override;
     void show_modal(Form& form) override;
     double twips_per_pixel_x() const override { return 15; }
@@ -54,10 +61,13 @@ public:
     Extent text_extent(FontFace const& face, std::string_view text) override;
 
 private:
+    void trapped(Object const& source, TrappedFailure const& failure) override;
+
     Pictures pictures_;
     FreeTypeGlyphs glyphs_;
     std::unique_ptr<Surface> default_printer_; // a recording one, or none
     std::vector<MessageBox> messages_;
+    std::map<Object const*, std::vector<TrappedFailure>> failures_;
     std::string application_path_;
     std::string help_file_;
 };

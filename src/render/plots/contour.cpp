@@ -3,6 +3,7 @@
 #include "zendara/render/plots/contour_mesh.hpp"
 #include "zendara/render/surface/surface.hpp"
 #include "zendara/support/checked.hpp"
+#include "zendara/support/container.hpp"
 
 #include <algorithm>
 #include <array>
@@ -17,9 +18,8 @@ namespace
 
 constexpr double too_few_sites_for_lines = 3;
 constexpr double fewest_nodes_of_high_quality = 25;
-constexpr double most_lines = 10000;   // in the range of the scale: more would be one black area
-constexpr double margin = 6;           // of both sides together, in surface units
-constexpr int system_modal_box = 4096; // style of the message box
+constexpr double most_lines = 10000; // in the range of the scale: more would be one black area
+constexpr double margin = 6;         // of both sides together, in surface units
 
 /// What the caller of D2Contour asks for.
 struct ContourRequest {
@@ -218,9 +218,9 @@ bool ContourPlot::fix_interval()
 void ContourPlot::show_that_no_lines_are_possible()
 {
     if (!is_for_paper_ && box_.left >= 0) {
-        if (record_.show_message)
-            record_.show_message("Difference of Mean, Maximum, and Minimum too small", system_modal_box,
-                                 "No Contour Plot possible");
+        if (record_.container != nullptr)
+            record_.container->message_box("Difference of Mean, Maximum, and Minimum too small", message_system_modal,
+                                           "No Contour Plot possible");
         return;
     }
     surface_.DrawWidth = 2;

@@ -1,5 +1,5 @@
 #include "zendara/render/plots/histogram_plot.hpp"
-#include "zendara/render/plots/histogram_shared.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <algorithm>
 #include <utility>
@@ -148,7 +148,7 @@ void CrosswiseHistogram::draw_control_limits()
     axes_.ForeColor = 255;
     if (!is_for_paper_)
         use_font("MS Sans Serif");
-    auto const& limits = histogram_limits();
+    auto const limits = histogram_limits();
     if (!limits.HistLimitOn)
         return;
     axes_.ForeColor = 0xFF0000;

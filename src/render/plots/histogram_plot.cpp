@@ -1,7 +1,7 @@
 #include "zendara/render/plots/histogram_plot.hpp"
 
-#include "zendara/render/plots/histogram_shared.hpp"
 #include "zendara/render/surface/drawing_state.hpp"
+#include "zendara/support/container.hpp"
 #include "zendara/support/number_text.hpp"
 
 #include <algorithm>
@@ -89,7 +89,7 @@ void HistogramPlot::begin_curve()
     plot_.DrawWidth = wide_pen();
     if (plot_.is_printer())
         use_font("Arial");
-    else if (Surface* const printer = default_printer())
+    else if (Surface* const printer = record_.container == nullptr ? nullptr : record_.container->default_printer())
         reset_as_new(*printer);
 }
 

@@ -60,11 +60,12 @@ struct CrosswiseBins {
 
 /// Counts values into bins. A value that fails is left out, after on_failure has run.
 template <class Bins, class OnFailure>
-void count_values(std::span<double const> values, Bins const& bins, HostArray<std::int16_t>& counts,
-                  OnFailure&& on_failure)
+void count_values(TrapPlace const& place, std::span<double const> values, Bins const& bins,
+                  HostArray<std::int16_t>& counts, OnFailure&& on_failure)
 {
     for (double const value : values)
         trap(
+            place,
             [&] {
                 std::int32_t const bin = bins(value);
                 if (bin != no_bin)
@@ -100,9 +101,11 @@ protected:
     }
     ~HistogramPlot() = default;
 
+    TrapPlace place_of(char const* step) const { return {record_.container, record_, "Statistic", step}; }
+
     template <class Statement> void step(Statement&& statement)
     {
-        trap(std::forward<Statement>(statement), [this] { reduce_scale(); });
+        trap(place_of(""), std::forward<Statement>(statement), [this] { reduce_scale(); });
     }
     /// Runs a body with i from 1 up to the rounded `end`, and leaves the counter one behind it.
     template <class Body> void count_up_to(double end, Body&& body)
@@ -120,8 +123,9 @@ protected:
     template <class Bins> void count_all_values(Bins const& bins)
     {
         auto const reduce = [this] { reduce_scale(); };
-        count_values(record_.grid_z_.values(), bins, counts_, reduce);
-        count_values(values_beyond_record(), bins, counts_, reduce);
+        TrapPlace const place = place_of("count of a bin");
+        count_values(place, record_.grid_z_.values(), bins, counts_, reduce);
+        count_values(place, values_beyond_record(), bins, counts_, reduce);
         find_highest_bin();
     }
     /// Finds the factor between density and count, for bins of that width; a curve above the bars raises the scale.

@@ -1,6 +1,7 @@
 #include "zendara/render/plots/scan_line.hpp"
 
 #include "zendara/support/checked.hpp"
+#include "zendara/support/container.hpp"
 
 #include <cmath>
 #include <utility>
@@ -124,8 +125,8 @@ ScanLine sloped_scan(panel& record, double slope, double x, double y, Direction 
 {
     EdgeSearch search(record, slope, x, y);
     if (!search.run()) {
-        if (record.show_message)
-            record.show_message(line_outside_panel, 0, "");
+        if (record.container != nullptr)
+            record.container->message_box(line_outside_panel, 0, "");
         return {search.first().x, search.first().y, search.first().x, search.first().y};
     }
     ScanLine const line = search.rightward();

@@ -39,10 +39,10 @@ double IntervalColors::by_every_interval(double scaled, double previous) const
 void SitePlot::repair_rectangle()
 {
     is_rectangle_repaired_ = true;
-    trap([&] { plot_l_ = to_i16(box_.left / repair_twips_per_pixel); });
-    trap([&] { plot_t_ = to_i16(box_.top / repair_twips_per_pixel); });
-    trap([&] { plot_w_ = to_i16(box_.width / repair_twips_per_pixel); });
-    trap([&] { plot_h_ = to_i16(box_.height / repair_twips_per_pixel); });
+    trap(place_of("rectangle"), [&] { plot_l_ = to_i16(box_.left / repair_twips_per_pixel); });
+    trap(place_of("rectangle"), [&] { plot_t_ = to_i16(box_.top / repair_twips_per_pixel); });
+    trap(place_of("rectangle"), [&] { plot_w_ = to_i16(box_.width / repair_twips_per_pixel); });
+    trap(place_of("rectangle"), [&] { plot_h_ = to_i16(box_.height / repair_twips_per_pixel); });
 }
 
 void SitePlot::clear_surface()

@@ -68,8 +68,10 @@ public:
 protected:
     template <class Statement> void step(Statement&& statement)
     {
-        trap(std::forward<Statement>(statement), [this] { repair_rectangle(); });
+        trap(place_of(""), std::forward<Statement>(statement), [this] { repair_rectangle(); });
     }
+
+    TrapPlace place_of(char const* step) const { return {record_.container, record_, "plot", step}; }
 
     bool is_for_paper() const { return show_displ_ == 1; }
     bool is_screen_picture() const { return !surface_.is_printer(); }

@@ -1,6 +1,6 @@
 #include "decimal_mark.hpp"
-#include "zendara/support/locale.hpp"
 #include "zendara/support/number_text.hpp"
+#include "zendara/support/process_state.hpp"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +30,7 @@ protected:
     void TearDown() override
     {
         std::setlocale(LC_ALL, "C");
-        read_decimal_separator();
+        set_decimal_separator("");
         unsetenv("LOCPATH");
     }
 };
@@ -42,32 +42,43 @@ TEST(DecimalSeparator, IsAPointAtFirst)
     EXPECT_EQ(decimal_separator(), ".");
 }
 
-TEST(DecimalSeparator, OneThatIsSetOutlivesAReading)
-{
-    DecimalMark const comma(",");
-    read_decimal_separator();
-    EXPECT_EQ(decimal_separator(), ",");
-}
-
-TEST(DecimalSeparator, AnEmptyTextGoesBackToTheCLocale)
+TEST(DecimalSeparator, IsSetByTheContainerAndAnEmptyTextMeansAPoint)
 {
     set_decimal_separator(";");
+    EXPECT_EQ(decimal_separator(), ";");
     set_decimal_separator("");
-    EXPECT_EQ(decimal_separator(), ".");
-    read_decimal_separator();
     EXPECT_EQ(decimal_separator(), ".");
 }
 
-TEST_F(GermanHost, TheCommaIsReadOnDemandAlone)
+TEST(DecimalSeparator, ATextThatWasInUseStaysReadable)
 {
-    EXPECT_EQ(decimal_separator(), ".");
-    read_decimal_separator();
+    std::string const& before = decimal_separator();
+    DecimalMark const comma(",");
+    EXPECT_EQ(before, ".");
     EXPECT_EQ(decimal_separator(), ",");
+}
+
+TEST(HistogramLimits, AreSharedAndComeBackAsTheyWereSet)
+{
+    set_histogram_limits({true, 2, 3});
+    EXPECT_TRUE(histogram_limits().HistLimitOn);
+    EXPECT_EQ(histogram_limits().HistLCL, 2);
+    EXPECT_EQ(histogram_limits().HistUCL, 3);
+    set_histogram_limits({});
+    EXPECT_FALSE(histogram_limits().HistLimitOn);
+}
+
+TEST_F(GermanHost, TheMarkOfTheLocaleIsTakenOnlyWhenAContainerTakesIt)
+{
+    EXPECT_EQ(decimal_separator_of_c_locale(), ",");
+    EXPECT_EQ(decimal_separator(), ".");
+    EXPECT_EQ(plain_text(0.5), "0.5");
+    set_decimal_separator(decimal_separator_of_c_locale());
     EXPECT_EQ(format_label(1.5), "1,5");
     EXPECT_EQ(FormatFixed(1.999, 0, 2, false), "1,99");
 }
 
-TEST_F(GermanHost, TextsKeepThePointUntilTheLocaleIsReadAnew)
+TEST_F(GermanHost, TextsKeepThePointWhileNobodySetsAnother)
 {
     EXPECT_EQ(plain_text(0.5), "0.5");
     EXPECT_EQ(format_scientific(123456), "1.23E+05");
@@ -82,7 +93,7 @@ TEST_F(GermanHost, NumbersReadAlikeWithEitherMark)
 
 TEST_F(GermanHost, TheLibraryLeavesTheLocaleAsItIs)
 {
-    read_decimal_separator();
+    set_decimal_separator(decimal_separator_of_c_locale());
     plain_text(1.5);
     parse_number("1.5");
     EXPECT_STREQ(std::localeconv()->decimal_point, ",");
