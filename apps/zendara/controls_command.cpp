@@ -29,6 +29,8 @@ std::vector<std::string_view> dispatch_kinds(MemberKind kind)
         return {"propput", "propget"};
     case MemberKind::GetSet:
         return {"propget", "propputref"};
+    case MemberKind::Set:
+        return {"propputref"};
     case MemberKind::Method:
         return {"method"};
     }
@@ -46,6 +48,8 @@ std::string_view word_of(MemberKind kind)
         return "put get";
     case MemberKind::GetSet:
         return "get set";
+    case MemberKind::Set:
+        return "set";
     case MemberKind::Method:
         return "method";
     }

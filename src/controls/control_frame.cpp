@@ -95,11 +95,11 @@ std::vector<Event> control_events()
     };
 }
 
-std::string help_file_name(std::string const& application_path)
+std::string help_file_name(std::string_view application_path)
 {
     std::size_t const length = application_path.size();
     bool const ends_in_backslash = length >= 2 && application_path[length - 2] == '\\';
-    return application_path + (ends_in_backslash ? "" : "\\") + "zendara.hlp";
+    return std::string(application_path) + (ends_in_backslash ? "" : "\\") + "zendara.hlp";
 }
 
 } // namespace zendara

@@ -66,6 +66,6 @@ inline constexpr std::array<std::string_view, 3> mouse_events = {"MouseDown", "M
 
 /// The name of the help file beside the application. The test for the backslash looks one letter short of the end, and
 /// installed help files rely on it.
-std::string help_file_name(std::string const& application_path);
+std::string help_file_name(std::string_view application_path);
 
 } // namespace zendara

@@ -42,10 +42,10 @@ public:
     }
 
     /// Text in the upper edge of the plot's frame.
-    std::string PlotCaption() const { return plot_frame().view.Frplot.caption(); }
-    void PlotCaption(std::string caption)
+    std::string const& PlotCaption() const { return plot_frame().view.Frplot.caption(); }
+    void PlotCaption(std::string_view caption)
     {
-        plot_frame().view.Frplot.caption(std::move(caption));
+        plot_frame().view.Frplot.caption(caption);
         frame().window.Refresh();
         frame().report_change("PlotCaption");
     }
@@ -94,7 +94,7 @@ private:
 
 template <class C> Member plot_row()
 {
-    return method<C, &PlotFrameMembers<C>::Plot>("Plot", {}, "Shows the plot: 0 done, 1 no data.");
+    return method<&PlotFrameMembers<C>::Plot>("Plot", "Shows the plot: 0 done, 1 no data.");
 }
 
 template <class C> Member back_color_row()
@@ -106,18 +106,17 @@ template <class C> Member back_color_row()
 template <class C> std::vector<Member> legend_and_caption_rows()
 {
     using P = PlotFrameMembers<C>;
-    constexpr auto put_first = MemberKind::PutGet;
     return {
-        accessors<C, P, BooleanWord, BooleanWord, &P::HideLegend, &P::HideLegend>("HideLegend", put_first,
-                                                                                  "Hides the legend."),
-        accessors<C, P, std::string, std::string, &P::PlotCaption, &P::PlotCaption>("PlotCaption", put_first,
-                                                                                    "Caption of the plot."),
+        property<P, BooleanWord, &P::HideLegend, &P::HideLegend>("HideLegend", "Hides the legend.")
+            .of_kind(MemberKind::PutGet),
+        text_property<P, &P::PlotCaption, &P::PlotCaption>("PlotCaption", "Caption of the plot.")
+            .of_kind(MemberKind::PutGet),
     };
 }
 
 template <class C> Member set_plot_not_valid_row()
 {
-    return method<C, &PlotFrameMembers<C>::SetPlotNotVaild>("SetPlotNotVaild", {}, "Makes the next Plot draw anew.");
+    return method<&PlotFrameMembers<C>::SetPlotNotVaild>("SetPlotNotVaild", "Makes the next Plot draw anew.");
 }
 
 } // namespace zendara

@@ -26,15 +26,14 @@ PrintCheck check_plot_print(ControlFrame const& frame)
     return PrintCheck::Ready;
 }
 
-std::vector<Argument> print_box()
+Arguments<4> print_box()
 {
     return {by_value("left"), by_value("top"), by_value("width"), by_value("height")};
 }
 
-std::vector<Argument> with_draw_frame(std::vector<Argument> arguments)
+Argument draw_frame()
 {
-    arguments.push_back(optional(by_reference("DrawFrame"), BooleanWord(true).word));
-    return arguments;
+    return optional(by_reference("DrawFrame"), BooleanWord(true).word);
 }
 
 } // namespace zendara

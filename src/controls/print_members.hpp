@@ -82,32 +82,31 @@ private:
 };
 
 /// The arguments of a rectangle on paper, by value.
-std::vector<Argument> print_box();
-/// Those arguments with the optional DrawFrame behind them.
-std::vector<Argument> with_draw_frame(std::vector<Argument> arguments);
+Arguments<4> print_box();
+/// The optional DrawFrame behind them.
+Argument draw_frame();
 
 template <class C> Member print_plot_row()
 {
-    return method<C, &PrintMembers<C>::PrintPlot>("PrintPlot", with_draw_frame(print_box()), "Prints the plot.");
+    return method<&PrintMembers<C>::PrintPlot>("PrintPlot", "Prints the plot.", print_box() + draw_frame());
 }
 
 template <class C> std::vector<Member> print_data_rows()
 {
     using P = PrintMembers<C>;
-    std::vector<Argument> const place = {by_reference("left"), by_reference("top")};
+    auto const place = by_references("left", "top");
     return {
-        method<C, &P::PrintPanelStatistic>("PrintPanelStatistic",
-                                           {by_reference("left"), by_reference("top"), by_reference("units")},
-                                           "Prints the statistics."),
-        method<C, &P::PrintPanelSize>("PrintPanelSize", place, "Prints the panel's sizes."),
+        method<&P::PrintPanelStatistic>("PrintPanelStatistic", "Prints the statistics.", by_reference("left"),
+                                        by_reference("top"), by_reference("units")),
+        method<&P::PrintPanelSize>("PrintPanelSize", "Prints the panel's sizes.", place),
     };
 }
 
 template <class C> std::vector<Member> print_block_rows()
 {
-    std::vector<Argument> const place = {by_reference("left"), by_reference("top")};
+    auto const place = by_references("left", "top");
     std::vector<Member> rows = {
-        method<C, &PrintMembers<C>::PrintLegend>("PrintLegend", with_draw_frame(place), "Prints the legend.")};
+        method<&PrintMembers<C>::PrintLegend>("PrintLegend", "Prints the legend.", place + draw_frame())};
     return join({std::move(rows), print_data_rows<C>()});
 }
 

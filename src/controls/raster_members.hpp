@@ -87,14 +87,10 @@ private:
 template <class C> std::vector<Member> raster_rows()
 {
     using R = RasterMembers<C>;
-    constexpr auto both = MemberKind::GetPut;
     return {
-        accessors<C, R, double, double, &R::ResolutionX, &R::ResolutionX>("ResolutionX", both,
-                                                                          "Width of a cell in mm."),
-        accessors<C, R, double, double, &R::ResolutionY, &R::ResolutionY>("ResolutionY", both,
-                                                                          "Height of a cell in mm."),
-        accessors<C, R, Sites, Sites, &R::ShowSites, &R::ShowSites>("ShowSites", both, "Marks the sites.")
-            .of_type(Type::Enumeration, &sites_enumeration()),
+        property<R, double, &R::ResolutionX, &R::ResolutionX>("ResolutionX", "Width of a cell in mm."),
+        property<R, double, &R::ResolutionY, &R::ResolutionY>("ResolutionY", "Height of a cell in mm."),
+        property<R, Sites, &R::ShowSites, &R::ShowSites>("ShowSites", "Marks the sites.").of(sites_enumeration()),
     };
 }
 

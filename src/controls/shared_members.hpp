@@ -253,7 +253,7 @@ inline void set_panel_color(ControlFrame& frame, double panel::*which, Color col
 template <class C, class Owner, Color (Owner::*Getter)() const, void (Owner::*Setter)(Color)>
 Member color_row(std::string_view name, std::string_view help)
 {
-    return accessors<C, Owner, Color, Color, Getter, Setter>(name, MemberKind::GetPut, help).of_type(Type::Color);
+    return property<Owner, Color, Getter, Setter>(name, help).of_type(Type::Color);
 }
 
 // Rows of the interface tables. A control lists them in its own order of slots.
@@ -262,17 +262,16 @@ template <class C> std::vector<Member> platform_rows()
 {
     using S = SharedMembers<C>;
     return {
-        accessors<C, S, Surface*, Surface*, &S::PrinterObj, &S::PrinterObj>("PrinterObj", MemberKind::GetSet,
-                                                                            "Output device of the print members."),
-        getter<C, &S::hdc>("hdc", "Device handle of the control."),
-        getter<C, &S::hwnd>("hwnd", "Window handle of the control."),
-        accessors<C, S, Object*, Object*, &S::MouseIcon, &S::MouseIcon>("MouseIcon", MemberKind::GetSet,
-                                                                        "Picture of the pointer.")
+        property<S, Surface*, &S::PrinterObj, &S::PrinterObj>("PrinterObj", "Output device of the print members.")
+            .of_kind(MemberKind::GetSet),
+        getter<&S::hdc>("hdc", "Device handle of the control."),
+        getter<&S::hwnd>("hwnd", "Window handle of the control."),
+        property<S, Object*, &S::MouseIcon, &S::MouseIcon>("MouseIcon", "Picture of the pointer.")
+            .of_kind(MemberKind::GetSet)
             .of_type(Type::Picture),
-        accessors<C, S, std::int16_t, std::int16_t, &S::MousePointer, &S::MousePointer>(
-            "MousePointer", MemberKind::GetPut, "Form of the pointer.")
-            .of_type(Type::Enumeration, &pointer_enumeration()),
-        method<C, &S::About>("About", {}, "Shows the about box."),
+        property<S, std::int16_t, &S::MousePointer, &S::MousePointer>("MousePointer", "Form of the pointer.")
+            .of(pointer_enumeration()),
+        method<&S::About>("About", "Shows the about box."),
     };
 }
 
@@ -280,67 +279,66 @@ template <class C> std::vector<Member> statistics_rows()
 {
     using S = SharedMembers<C>;
     return {
-        getter<C, &S::StdDevPercent>("StdDevPercent", "Standard deviation in percent of the mean."),
-        getter<C, &S::StdDev>("StdDev", "Sample standard deviation of the values."),
-        getter<C, &S::HiLo>("HiLo", "Spread in percent of the sum of the extremes."),
-        getter<C, &S::range>("range", "Largest less smallest value."),
-        getter<C, &S::Maximum>("Maximum", "Largest value."),
-        getter<C, &S::Minimum>("Minimum", "Smallest value."),
-        getter<C, &S::mean>("mean", "Arithmetic mean of the values."),
+        getter<&S::StdDevPercent>("StdDevPercent", "Standard deviation in percent of the mean."),
+        getter<&S::StdDev>("StdDev", "Sample standard deviation of the values."),
+        getter<&S::HiLo>("HiLo", "Spread in percent of the sum of the extremes."),
+        getter<&S::range>("range", "Largest less smallest value."),
+        getter<&S::Maximum>("Maximum", "Largest value."),
+        getter<&S::Minimum>("Minimum", "Smallest value."),
+        getter<&S::mean>("mean", "Arithmetic mean of the values."),
     };
 }
 
 template <class C> std::vector<Member> size_rows()
 {
     using S = SharedMembers<C>;
-    constexpr auto put_first = MemberKind::PutGet;
     return {
-        accessors<C, S, double, double, &S::PanelSizeX, &S::PanelSizeX>("PanelSizeX", put_first,
-                                                                        "Width of the panel in mm."),
-        accessors<C, S, double, double, &S::PanelSizeY, &S::PanelSizeY>("PanelSizeY", put_first,
-                                                                        "Height of the panel in mm."),
-        accessors<C, S, double, double, &S::TestSizeX, &S::TestSizeX>("TestSizeX", put_first,
-                                                                      "Width of the tested area in mm."),
-        accessors<C, S, double, double, &S::TestSizeY, &S::TestSizeY>("TestSizeY", put_first,
-                                                                      "Height of the tested area in mm."),
+        property<S, double, &S::PanelSizeX, &S::PanelSizeX>("PanelSizeX", "Width of the panel in mm.")
+            .of_kind(MemberKind::PutGet),
+        property<S, double, &S::PanelSizeY, &S::PanelSizeY>("PanelSizeY", "Height of the panel in mm.")
+            .of_kind(MemberKind::PutGet),
+        property<S, double, &S::TestSizeX, &S::TestSizeX>("TestSizeX", "Width of the tested area in mm.")
+            .of_kind(MemberKind::PutGet),
+        property<S, double, &S::TestSizeY, &S::TestSizeY>("TestSizeY", "Height of the tested area in mm.")
+            .of_kind(MemberKind::PutGet),
     };
 }
 
 template <class C> std::vector<Member> limit_rows()
 {
     return {
-        method<C, &C::ReleasePlotLimit>("ReleasePlotLimit", {}, "Goes back to the limits of the data."),
-        method<C, &C::SetPlotLimit>("SetPlotLimit", {by_reference("LPL"), by_reference("UPL")},
-                                    "Takes other limits for the colour scale."),
+        method<&C::ReleasePlotLimit>("ReleasePlotLimit", "Goes back to the limits of the data."),
+        method<&C::SetPlotLimit>("SetPlotLimit", "Takes other limits for the colour scale.", by_reference("LPL"),
+                                 by_reference("UPL")),
     };
 }
 
 template <class C> Member show_plot_option_row()
 {
-    return method<C, &C::ShowPlotOption>("ShowPlotOption", {}, "Opens the option dialog.");
+    return method<&C::ShowPlotOption>("ShowPlotOption", "Opens the option dialog.");
 }
 
 template <class C> Member set_panel_data_row()
 {
-    return method<C, &SharedMembers<C>::SetPanelData>(
-        "SetPanelData", {by_reference("x"), by_reference("y"), by_reference("Z")}, "Takes the sites from arrays.");
+    return method<&SharedMembers<C>::SetPanelData>("SetPanelData", "Takes the sites from arrays.", by_reference("x"),
+                                                   by_reference("y"), by_reference("Z"));
 }
 
 template <class C> Member set_data_file_row()
 {
-    return method<C, &SharedMembers<C>::SetDataFile>("SetDataFile", {by_reference("datafile"), by_reference("nops")},
-                                                     "Takes the sites from a raw data file.");
+    return method<&SharedMembers<C>::SetDataFile>("SetDataFile", "Takes the sites from a raw data file.",
+                                                  by_reference("datafile"), by_reference("nops"));
 }
 
 template <class C> std::vector<Member> read_out_rows()
 {
     using S = SharedMembers<C>;
     return {
-        method<C, &S::clear>("clear", {}, "Empties the display."),
-        method<C, &S::GetPanelData>("GetPanelData", {by_reference("x"), by_reference("y"), by_reference("Z")},
-                                    "Reads the sites out."),
-        method<C, &S::Interpolation>("Interpolation", {by_reference("x"), by_reference("y")},
-                                     "Value at any point of the panel."),
+        method<&S::clear>("clear", "Empties the display."),
+        method<&S::GetPanelData>("GetPanelData", "Reads the sites out.", by_reference("x"), by_reference("y"),
+                                 by_reference("Z")),
+        method<&S::Interpolation>("Interpolation", "Value at any point of the panel.", by_reference("x"),
+                                  by_reference("y")),
     };
 }
 

@@ -71,8 +71,8 @@ private:
 template <class C> Member sigma_range_row()
 {
     using S = SigmaMembers<C>;
-    return accessors<C, S, double, double, &S::SigmaRange, &S::SigmaRange>(
-        "SigmaRange", MemberKind::GetPut, "Definition of the sigma range (multiples of the standard deviation).");
+    return property<S, double, &S::SigmaRange, &S::SigmaRange>(
+        "SigmaRange", "Definition of the sigma range (multiples of the standard deviation).");
 }
 
 template <class C> std::vector<Member> sigma_color_rows()

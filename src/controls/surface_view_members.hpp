@@ -119,18 +119,13 @@ template <class C> std::vector<Member> surface_view_rows()
 {
     using S = SurfaceViewMembers<C>;
     using Degrees = std::int16_t;
-    constexpr auto both = MemberKind::GetPut;
     return {
-        accessors<C, S, double, double, &S::XResolution, &S::XResolution>("XResolution", both,
-                                                                          "Width of a cell in mm."),
-        accessors<C, S, double, double, &S::YResolution, &S::YResolution>("YResolution", both,
-                                                                          "Height of a cell in mm."),
-        accessors<C, S, Degrees, Degrees, &S::GridRotation, &S::GridRotation>("GridRotation", both,
-                                                                              "Rotation of the plot in degrees."),
-        accessors<C, S, Degrees, Degrees, &S::GridInclination, &S::GridInclination>(
-            "GridInclination", both, "Inclination of the plot in degrees."),
-        accessors<C, S, std::int16_t, std::int16_t, &S::PlotScale, &S::PlotScale>("PlotScale", both,
-                                                                                  "Height of the z axis."),
+        property<S, double, &S::XResolution, &S::XResolution>("XResolution", "Width of a cell in mm."),
+        property<S, double, &S::YResolution, &S::YResolution>("YResolution", "Height of a cell in mm."),
+        property<S, Degrees, &S::GridRotation, &S::GridRotation>("GridRotation", "Rotation of the plot in degrees."),
+        property<S, Degrees, &S::GridInclination, &S::GridInclination>("GridInclination",
+                                                                       "Inclination of the plot in degrees."),
+        property<S, std::int16_t, &S::PlotScale, &S::PlotScale>("PlotScale", "Height of the z axis."),
     };
 }
 

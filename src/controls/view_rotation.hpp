@@ -57,8 +57,7 @@ private:
 /// The row of the member that a control with rotation by mouse carries for hosts; nothing reads it.
 template <class C> Member enable_rotation_row()
 {
-    return field<C, &C::EnableRotation>("EnableRotation",
-                                        "Carried for hosts: a drag turns the view whatever it holds.");
+    return field<&C::EnableRotation>("EnableRotation", "Carried for hosts: a drag turns the view whatever it holds.");
 }
 
 } // namespace zendara

@@ -199,38 +199,35 @@ std::vector<StoredProperty> const& ZvHistogram::stored_properties() const
 Interface const& ZvHistogram::interface_table()
 {
     using Z = ZvHistogram;
-    constexpr auto both = MemberKind::GetPut;
     static Interface const table{
         "ZvHistogram", "Histogram of one panel's values.",
         join({
             platform_rows<Z>(),
             statistics_rows<Z>(),
             size_rows<Z>(),
-            {accessors<Z, Z, PlotTyEnum, PlotTyEnum, &Z::PlotType, &Z::PlotType>("PlotType", both,
-                                                                                 "From which edge the bars grow.")
-                 .of_type(Type::Enumeration, &plot_ty_enumeration()),
-             accessors<Z, Z, double, double, &Z::Resolution, &Z::Resolution>("Resolution", both,
-                                                                             "Resolution of the histogram"),
+            {property<Z, PlotTyEnum, &Z::PlotType, &Z::PlotType>("PlotType", "From which edge the bars grow.")
+                 .of(plot_ty_enumeration()),
+             property<Z, double, &Z::Resolution, &Z::Resolution>("Resolution", "Resolution of the histogram"),
              color_row<Z, Z, &Z::BeamColor, &Z::BeamColor>("BeamColor", "Colour of the bars."),
              color_row<Z, Z, &Z::GaussCurveColor, &Z::GaussCurveColor>("GaussCurveColor",
                                                                        "Colour of curve and sigma marks."),
-             method<Z, &Z::Plot>("Plot", {}, "Shows the plot: 0 done, 1 no data."),
+             method<&Z::Plot>("Plot", "Shows the plot: 0 done, 1 no data."),
              color_row<Z, Z, &Z::BackColor, &Z::BackColor>("BackColor", "Colour around the plot."),
              show_plot_option_row<Z>()},
             limit_rows<Z>(),
             {set_panel_data_row<Z>(),
-             accessors<Z, Z, BooleanWord, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", MemberKind::PutGet,
-                                                                                       "Hides the options button."),
-             print_plot_row<Z>(), method<Z, &Z::PrintPlot_THN>("PrintPlot_THN", print_box(), "Prints a small plot.")},
+             property<Z, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", "Hides the options button.")
+                 .of_kind(MemberKind::PutGet),
+             print_plot_row<Z>(), method<&Z::PrintPlot_THN>("PrintPlot_THN", "Prints a small plot.", print_box())},
             print_data_rows<Z>(),
             read_out_rows<Z>(),
-            {method<Z, &Z::SetPlotNotVaild>("SetPlotNotVaild", {}, "Does nothing."), set_data_file_row<Z>(),
-             method<Z, &Z::SetChartDim>("SetChartDim", {by_reference("topC"), by_reference("heightC")},
-                                        "Takes top and height of the plot from another chart."),
-             method<Z, &Z::Borderstyle>("Borderstyle", {by_reference("Bstyle")}, "Border of the frame."),
-             method<Z, &Z::ShowControlLimit>("ShowControlLimit", {by_reference("LCLs"), by_reference("UCLs")},
-                                             "Shows limits on crosswise histograms."),
-             method<Z, &Z::ResetControlLimit>("ResetControlLimit", {}, "Takes those limits away.")},
+            {method<&Z::SetPlotNotVaild>("SetPlotNotVaild", "Does nothing."), set_data_file_row<Z>(),
+             method<&Z::SetChartDim>("SetChartDim", "Takes top and height of the plot from another chart.",
+                                     by_reference("topC"), by_reference("heightC")),
+             method<&Z::Borderstyle>("Borderstyle", "Border of the frame.", by_reference("Bstyle")),
+             method<&Z::ShowControlLimit>("ShowControlLimit", "Shows limits on crosswise histograms.",
+                                          by_reference("LCLs"), by_reference("UCLs")),
+             method<&Z::ResetControlLimit>("ResetControlLimit", "Takes those limits away.")},
         }),
         control_events()};
     return table;

@@ -133,9 +133,9 @@ void ZvLineScan::HideLegend(BooleanWord is_hidden)
     frame_.report_change("HideLegend");
 }
 
-void ZvLineScan::PlotCaption(std::string caption)
+void ZvLineScan::PlotCaption(std::string_view caption)
 {
-    view_.Plot.caption(std::move(caption));
+    view_.Plot.caption(caption);
     frame_.window.Refresh();
     frame_.report_change("PlotCaption");
 }
@@ -376,53 +376,45 @@ Interface const& ZvLineScan::interface_table()
 {
     using Z = ZvLineScan;
     using I2 = std::int16_t;
-    constexpr auto both = MemberKind::GetPut;
-    constexpr auto put_first = MemberKind::PutGet;
-    std::vector<Argument> const line_or_angle = {by_reference("angle"), by_reference("StartX"), by_reference("StartY"),
-                                                 by_reference("EndX"), by_reference("EndY")};
-    std::vector<Argument> const whole_line = {by_reference("PlotType"), by_reference("angle"),  by_reference("AngleX"),
-                                              by_reference("AngleY"),   by_reference("StartX"), by_reference("StartY"),
-                                              by_reference("EndX"),     by_reference("EndY")};
+    auto const line_or_angle = by_references("angle", "StartX", "StartY", "EndX", "EndY");
+    auto const whole_line = by_references("PlotType", "angle", "AngleX", "AngleY", "StartX", "StartY", "EndX", "EndY");
     static Interface const table{
         "ZvLineScan", "Values of one panel along a line.",
         join({
             platform_rows<Z>(),
             statistics_rows<Z>(),
             size_rows<Z>(),
-            {accessors<Z, Z, I2, I2, &Z::angle, &Z::angle>("angle", both, "Direction of the line in degrees."),
-             accessors<Z, Z, PlotTypeEnumLineScan, PlotTypeEnumLineScan, &Z::PlotType, &Z::PlotType>(
-                 "PlotType", both, "Form of the line: by angle or through two points.")
-                 .of_type(Type::Enumeration, &plot_type_enumeration()),
-             accessors<Z, Z, I2, I2, &Z::RotationPointX, &Z::RotationPointX>("RotationPointX", both,
-                                                                             "Point of the line by angle, in mm."),
-             accessors<Z, Z, I2, I2, &Z::RotationPointY, &Z::RotationPointY>("RotationPointY", both,
-                                                                             "Point of the line by angle, in mm."),
-             accessors<Z, Z, I2, I2, &Z::LineStartPointX, &Z::LineStartPointX>("LineStartPointX", both,
-                                                                               "First of two points, in mm."),
-             accessors<Z, Z, I2, I2, &Z::LineStartPointY, &Z::LineStartPointY>("LineStartPointY", both,
-                                                                               "First of two points, in mm."),
-             accessors<Z, Z, I2, I2, &Z::LineEndPointX, &Z::LineEndPointX>("LineEndPointX", both,
-                                                                           "Second of two points, in mm."),
-             accessors<Z, Z, I2, I2, &Z::LineEndPointY, &Z::LineEndPointY>("LineEndPointY", both,
-                                                                           "Second of two points, in mm."),
-             accessors<Z, Z, Sites, Sites, &Z::ShowSites, &Z::ShowSites>("ShowSites", both,
-                                                                         "Marks the sites on the line.")
-                 .of_type(Type::Enumeration, &sites_enumeration()),
-             method<Z, &Z::Plot>("Plot", {}, "Shows the plot: 0 done, 1 no data."),
+            {property<Z, I2, &Z::angle, &Z::angle>("angle", "Direction of the line in degrees."),
+             property<Z, PlotTypeEnumLineScan, &Z::PlotType, &Z::PlotType>(
+                 "PlotType", "Form of the line: by angle or through two points.")
+                 .of(plot_type_enumeration()),
+             property<Z, I2, &Z::RotationPointX, &Z::RotationPointX>("RotationPointX",
+                                                                     "Point of the line by angle, in mm."),
+             property<Z, I2, &Z::RotationPointY, &Z::RotationPointY>("RotationPointY",
+                                                                     "Point of the line by angle, in mm."),
+             property<Z, I2, &Z::LineStartPointX, &Z::LineStartPointX>("LineStartPointX",
+                                                                       "First of two points, in mm."),
+             property<Z, I2, &Z::LineStartPointY, &Z::LineStartPointY>("LineStartPointY",
+                                                                       "First of two points, in mm."),
+             property<Z, I2, &Z::LineEndPointX, &Z::LineEndPointX>("LineEndPointX", "Second of two points, in mm."),
+             property<Z, I2, &Z::LineEndPointY, &Z::LineEndPointY>("LineEndPointY", "Second of two points, in mm."),
+             property<Z, Sites, &Z::ShowSites, &Z::ShowSites>("ShowSites", "Marks the sites on the line.")
+                 .of(sites_enumeration()),
+             method<&Z::Plot>("Plot", "Shows the plot: 0 done, 1 no data."),
              color_row<Z, Z, &Z::BackColor, &Z::BackColor>("BackColor", "Colour around the plot."),
              show_plot_option_row<Z>()},
             limit_rows<Z>(),
             {set_panel_data_row<Z>(),
-             accessors<Z, Z, BooleanWord, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", put_first,
-                                                                                       "Hides the overview."),
-             accessors<Z, Z, std::string, std::string, &Z::PlotCaption, &Z::PlotCaption>("PlotCaption", put_first,
-                                                                                         "Caption of the plot."),
+             property<Z, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", "Hides the overview.")
+                 .of_kind(MemberKind::PutGet),
+             text_property<Z, &Z::PlotCaption, &Z::PlotCaption>("PlotCaption", "Caption of the plot.")
+                 .of_kind(MemberKind::PutGet),
              print_plot_row<Z>()},
             print_data_rows<Z>(),
             read_out_rows<Z>(),
-            {method<Z, &Z::SetPlotNotVaild>("SetPlotNotVaild", {}, "Clears the curve."), set_data_file_row<Z>(),
-             method<Z, &Z::GetLineOrAngle>("GetLineOrAngle", line_or_angle, "Reads the line."),
-             method<Z, &Z::SetLineOrAngle>("SetLineOrAngle", whole_line, "Sets the form and its line.")},
+            {method<&Z::SetPlotNotVaild>("SetPlotNotVaild", "Clears the curve."), set_data_file_row<Z>(),
+             method<&Z::GetLineOrAngle>("GetLineOrAngle", "Reads the line.", line_or_angle),
+             method<&Z::SetLineOrAngle>("SetLineOrAngle", "Sets the form and its line.", whole_line)},
         }),
         control_events()};
     return table;

@@ -72,8 +72,8 @@ public:
     void HideLegend(BooleanWord is_hidden);
 
     /// Text in the upper edge of the curve's frame.
-    std::string PlotCaption() const { return view_.Plot.caption(); }
-    void PlotCaption(std::string caption);
+    std::string const& PlotCaption() const { return view_.Plot.caption(); }
+    void PlotCaption(std::string_view caption);
 
     void PrintLegend(double, double, BooleanWord&) = delete; // a line scan has none
 

@@ -73,13 +73,12 @@ std::vector<StoredProperty> const& ZvPlot2D::stored_properties() const
 Interface const& ZvPlot2D::interface_table()
 {
     using Z = ZvPlot2D;
-    std::vector<Argument> const box = {by_reference("left"), by_reference("top"), by_reference("width"),
-                                       by_reference("height")};
+    auto const box = by_references("left", "top", "width", "height");
     static Interface const table =
         plot_interface<Z>("ZvPlot2D", "Colour map of one panel.",
                           {raster_rows<Z>(),
                            interval_color_rows<Z>(),
-                           {method<Z, &Z::PrintGridPlot>("PrintGridPlot", box, "Prints the site numbers.")}});
+                           {method<&Z::PrintGridPlot>("PrintGridPlot", "Prints the site numbers.", box)}});
     return table;
 }
 

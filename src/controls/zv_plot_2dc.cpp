@@ -76,9 +76,9 @@ void ZvPlot2DC::IntervalInPercent(BooleanWord is_in_percent)
     frame_.settings_changed("IntervalInPercent");
 }
 
-void ZvPlot2DC::MeasurementUnit(std::string unit)
+void ZvPlot2DC::MeasurementUnit(std::string_view unit)
 {
-    settings_.unit = std::move(unit);
+    settings_.unit = unit;
     frame_.settings_changed("MeasurementUnit");
 }
 
@@ -176,23 +176,19 @@ namespace
 std::vector<Member> contour_rows()
 {
     using Z = ZvPlot2DC;
-    constexpr auto both = MemberKind::GetPut;
     return {
-        accessors<Z, Z, double, double, &Z::Interval, &Z::Interval>(
-            "Interval", both, "The distance of the lines given in percent of the mean value."),
-        accessors<Z, Z, BooleanWord, BooleanWord, &Z::IntervalInPercent, &Z::IntervalInPercent>(
-            "IntervalInPercent", both, "Interval is a percentage."),
-        accessors<Z, Z, std::string, std::string, &Z::MeasurementUnit, &Z::MeasurementUnit>(
-            "MeasurementUnit", both, "Unit shown with Interval."),
-        accessors<Z, Z, ContourMarks, ContourMarks, &Z::marksites, &Z::marksites>(
-            "marksites", both, "Mark the exact or the converted sites on plot.")
-            .of_type(Type::Enumeration, &marks_enumeration()),
-        accessors<Z, Z, ContourResolution, ContourResolution, &Z::Resolution, &Z::Resolution>("Resolution", both,
-                                                                                              "Fineness of the raster.")
-            .of_type(Type::Enumeration, &resolution_enumeration()),
-        accessors<Z, Z, ContourColors, ContourColors, &Z::PlotColored, &Z::PlotColored>(
-            "PlotColored", both, "Draw colored or black/white plot.")
-            .of_type(Type::Enumeration, &colors_enumeration()),
+        property<Z, double, &Z::Interval, &Z::Interval>(
+            "Interval", "The distance of the lines given in percent of the mean value."),
+        property<Z, BooleanWord, &Z::IntervalInPercent, &Z::IntervalInPercent>("IntervalInPercent",
+                                                                               "Interval is a percentage."),
+        text_property<Z, &Z::MeasurementUnit, &Z::MeasurementUnit>("MeasurementUnit", "Unit shown with Interval."),
+        property<Z, ContourMarks, &Z::marksites, &Z::marksites>("marksites",
+                                                                "Mark the exact or the converted sites on plot.")
+            .of(marks_enumeration()),
+        property<Z, ContourResolution, &Z::Resolution, &Z::Resolution>("Resolution", "Fineness of the raster.")
+            .of(resolution_enumeration()),
+        property<Z, ContourColors, &Z::PlotColored, &Z::PlotColored>("PlotColored", "Draw colored or black/white plot.")
+            .of(colors_enumeration()),
         color_row<Z, Z, &Z::MeanCurveColor, &Z::MeanCurveColor>("MeanCurveColor", "Colour of the mean line."),
         color_row<Z, Z, &Z::UpperCurveColor, &Z::UpperCurveColor>("UpperCurveColor", "Colour of lines above the mean."),
         color_row<Z, Z, &Z::LowerCurveColor, &Z::LowerCurveColor>("LowerCurveColor", "Colour of lines below the mean."),
@@ -204,13 +200,12 @@ std::vector<Member> contour_rows()
 Interface const& ZvPlot2DC::interface_table()
 {
     using Z = ZvPlot2DC;
-    auto box_and_text = print_box();
-    box_and_text.push_back(by_reference("winfo"));
-    static Interface const table = plot_interface<Z>(
-        "ZvPlot2DC", "Contour plot of one panel.",
-        {contour_rows(),
-         interval_color_rows<Z>(),
-         {method<Z, &Z::PrintPlot_THN>("PrintPlot_THN", box_and_text, "Prints the plot in its compact form.")}});
+    static Interface const table =
+        plot_interface<Z>("ZvPlot2DC", "Contour plot of one panel.",
+                          {contour_rows(),
+                           interval_color_rows<Z>(),
+                           {method<&Z::PrintPlot_THN>("PrintPlot_THN", "Prints the plot in its compact form.",
+                                                      print_box() + by_reference("winfo"))}});
     return table;
 }
 

@@ -35,8 +35,8 @@ public:
     void IntervalInPercent(BooleanWord is_in_percent);
 
     /// The unit that the legend shows behind Interval.
-    std::string MeasurementUnit() const { return settings_.unit; }
-    void MeasurementUnit(std::string unit);
+    std::string const& MeasurementUnit() const { return settings_.unit; }
+    void MeasurementUnit(std::string_view unit);
 
     /// What is marked: a plus above the mean, a minus otherwise.
     ContourMarks marksites() const { return settings_.marks; }

@@ -77,8 +77,7 @@ Interface const& ZvPlot2DV::interface_table()
             read_out_rows<Z>(),
             interval_color_rows<Z>(),
             {set_plot_not_valid_row<Z>(),
-             method<Z, &Z::PrintGridNumber>("PrintGridNumber", with_draw_frame(print_box()),
-                                            "Prints the site numbers.")},
+             method<&Z::PrintGridNumber>("PrintGridNumber", "Prints the site numbers.", print_box() + draw_frame())},
         }),
         control_events()};
     return table;

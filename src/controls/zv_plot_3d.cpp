@@ -87,9 +87,8 @@ std::vector<StoredProperty> const& ZvPlot3D::stored_properties() const
 Interface const& ZvPlot3D::interface_table()
 {
     using Z = ZvPlot3D;
-    auto const type_row = accessors<Z, Z, PlotTypeEnum, PlotTypeEnum, &Z::PlotType, &Z::PlotType>(
-                              "PlotType", MemberKind::GetPut, "What the cells look like.")
-                              .of_type(Type::Enumeration, &plot_type_enumeration());
+    auto const type_row = property<Z, PlotTypeEnum, &Z::PlotType, &Z::PlotType>("PlotType", "What the cells look like.")
+                              .of(plot_type_enumeration());
     static Interface const table = plot_interface<Z>(
         "ZvPlot3D", "Surface plot of one panel.",
         {join({surface_view_rows<Z>(), {type_row, enable_rotation_row<Z>()}}), interval_color_rows<Z>()});

@@ -77,18 +77,14 @@ Interface const& ZvPlot3DB::interface_table()
 {
     using Z = ZvPlot3DB;
     using Degrees = std::int16_t;
-    constexpr auto both = MemberKind::GetPut;
-    std::vector<Member> settings = {accessors<Z, Z, double, double, &Z::BeamWidth, &Z::BeamWidth>(
-                                        "BeamWidth", both, "Size of a bar along x in mm."),
-                                    accessors<Z, Z, double, double, &Z::BeamHeight, &Z::BeamHeight>(
-                                        "BeamHeight", both, "Size of a bar along y in mm."),
-                                    accessors<Z, Z, double, double, &Z::BeamScale, &Z::BeamScale>(
-                                        "BeamScale", both, "Height of a bar per unit of the value."),
-                                    accessors<Z, Z, Degrees, Degrees, &Z::GridRotation, &Z::GridRotation>(
-                                        "GridRotation", both, "Rotation of the plot in degrees."),
-                                    accessors<Z, Z, Degrees, Degrees, &Z::GridInclination, &Z::GridInclination>(
-                                        "GridInclination", both, "Inclination of the plot in degrees."),
-                                    enable_rotation_row<Z>()};
+    std::vector<Member> settings = {
+        property<Z, double, &Z::BeamWidth, &Z::BeamWidth>("BeamWidth", "Size of a bar along x in mm."),
+        property<Z, double, &Z::BeamHeight, &Z::BeamHeight>("BeamHeight", "Size of a bar along y in mm."),
+        property<Z, double, &Z::BeamScale, &Z::BeamScale>("BeamScale", "Height of a bar per unit of the value."),
+        property<Z, Degrees, &Z::GridRotation, &Z::GridRotation>("GridRotation", "Rotation of the plot in degrees."),
+        property<Z, Degrees, &Z::GridInclination, &Z::GridInclination>("GridInclination",
+                                                                       "Inclination of the plot in degrees."),
+        enable_rotation_row<Z>()};
     static Interface const table =
         plot_interface<Z>("ZvPlot3DB", "Bar plot of one panel.", {std::move(settings), interval_color_rows<Z>()});
     return table;

@@ -84,8 +84,8 @@ std::vector<StoredProperty> const& ZvPlot3DS::stored_properties() const
 Interface const& ZvPlot3DS::interface_table()
 {
     using Z = ZvPlot3DS;
-    auto const rotation_row = accessors<Z, Z, std::int16_t, std::int16_t, &Z::PanelRotation, &Z::PanelRotation>(
-        "PanelRotation", MemberKind::GetPut, "Rotation of the panel's figure in degrees.");
+    auto const rotation_row = property<Z, std::int16_t, &Z::PanelRotation, &Z::PanelRotation>(
+        "PanelRotation", "Rotation of the panel's figure in degrees.");
     static Interface const table = plot_interface<Z>(
         "ZvPlot3DS", "Sigma surface of one panel.",
         {join({surface_view_rows<Z>(), {rotation_row, sigma_range_row<Z>(), enable_rotation_row<Z>()}}),

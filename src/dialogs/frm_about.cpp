@@ -85,8 +85,7 @@ Interface const& frmAbout::host_interface() const
     static Interface const table{
         "frmAbout", "The about box.",
         join({place_and_looks(),
-              {method<frmAbout, &frmAbout::SetTitle>("SetTitle", {by_value("kind")},
-                                                     "Names the kind of control in the title.")}})};
+              {method<&frmAbout::SetTitle>("SetTitle", "Names the kind of control in the title.", by_value("kind"))}})};
     return table;
 }
 

@@ -52,13 +52,12 @@ void frmPlotHist::confirm()
 Interface const& frmPlotHist::host_interface() const
 {
     using D = frmPlotHist;
-    static Interface const table{
-        "frmPlotHist", "Options of the histogram.",
-        join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues", {by_reference("wafo"), by_value("res"), by_value("BackC")},
-                                        "Fills the dialog."),
-               redraw_row<D>(), result_row<D, &D::GetResolution>("GetResolution", "Number of bins."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
+    static Interface const table{"frmPlotHist", "Options of the histogram.",
+                                 join({place_and_looks(),
+                                       {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"),
+                                                              by_value("res"), by_value("BackC")),
+                                        redraw_row(), method<&D::GetResolution>("GetResolution", "Number of bins."),
+                                        method<&D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
     return table;
 }
 

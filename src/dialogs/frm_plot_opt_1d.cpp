@@ -298,18 +298,13 @@ Interface const& frmPlotOpt1D::host_interface() const
     static Interface const table{
         "frmPlotOpt1D", "Options of the line scan.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("PlotType"), by_value("angle"),
-                                         by_value("AngleX"), by_value("AngleY"), by_value("StartX"), by_value("StartY"),
-                                         by_value("EndX"), by_value("EndY"), by_value("markS")},
-                                        "Fills the dialog."),
-               redraw_row<D>(),
-               result_row<D, &D::GetMarkeSites>("GetMarkeSites", "Whether the sites on the line are marked."),
-               method<D, &D::GetResult>("GetResult",
-                                        {by_reference("RoAngle"), by_reference("x1"), by_reference("y1"),
-                                         by_reference("x2"), by_reference("y2"), by_reference("x3"), by_reference("y3"),
-                                         by_reference("mode")},
-                                        "Reads the line.")}})};
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("PlotType"),
+                                     by_value("angle"), by_value("AngleX"), by_value("AngleY"), by_value("StartX"),
+                                     by_value("StartY"), by_value("EndX"), by_value("EndY"), by_value("markS")),
+               redraw_row(), method<&D::GetMarkeSites>("GetMarkeSites", "Whether the sites on the line are marked."),
+               method<&D::GetResult>("GetResult", "Reads the line.", by_reference("RoAngle"), by_reference("x1"),
+                                     by_reference("y1"), by_reference("x2"), by_reference("y2"), by_reference("x3"),
+                                     by_reference("y3"), by_reference("mode"))}})};
     return table;
 }
 

@@ -54,14 +54,12 @@ Interface const& frmPlotOpt2d::host_interface() const
     static Interface const table{
         "frmPlotOpt2d", "Options of the colour map.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>(
-                   "SetValues",
-                   {by_reference("wafo"), by_value("Xres"), by_value("yres"), by_value("markS"), by_value("BackC")},
-                   "Fills the dialog."),
-               redraw_row<D>(), result_row<D, &D::GetXRes>("GetXRes", "Width of a cell in mm."),
-               result_row<D, &D::GetYRes>("GetYRes", "Height of a cell in mm."),
-               result_row<D, &D::GetMarkeSites>("GetMarkeSites", "Whether the sites are marked."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("Xres"),
+                                     by_value("yres"), by_value("markS"), by_value("BackC")),
+               redraw_row(), method<&D::GetXRes>("GetXRes", "Width of a cell in mm."),
+               method<&D::GetYRes>("GetYRes", "Height of a cell in mm."),
+               method<&D::GetMarkeSites>("GetMarkeSites", "Whether the sites are marked."),
+               method<&D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
     return table;
 }
 
@@ -101,15 +99,13 @@ Interface const& frmPlotOpt2ds::host_interface() const
     static Interface const table{
         "frmPlotOpt2ds", "Options of the sigma map.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("Xres"), by_value("yres"), by_value("sig"),
-                                         by_value("markS"), by_value("BackC")},
-                                        "Fills the dialog."),
-               redraw_row<D>(), result_row<D, &D::GetXRes>("GetXRes", "Width of a cell in mm."),
-               result_row<D, &D::GetYRes>("GetYRes", "Height of a cell in mm."),
-               result_row<D, &D::GetMarkeSites>("GetMarkeSites", "Whether the sites are marked."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot."),
-               result_row<D, &D::GetSigRange>("GetSigRange", "Half width of the sigma band.")}})};
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("Xres"),
+                                     by_value("yres"), by_value("sig"), by_value("markS"), by_value("BackC")),
+               redraw_row(), method<&D::GetXRes>("GetXRes", "Width of a cell in mm."),
+               method<&D::GetYRes>("GetYRes", "Height of a cell in mm."),
+               method<&D::GetMarkeSites>("GetMarkeSites", "Whether the sites are marked."),
+               method<&D::GetBackColor>("GetBackColor", "Colour around the plot."),
+               method<&D::GetSigRange>("GetSigRange", "Half width of the sigma band.")}})};
     return table;
 }
 

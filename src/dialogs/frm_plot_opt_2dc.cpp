@@ -58,17 +58,16 @@ Interface const& frmPlotOpt2DC::host_interface() const
     static Interface const table{
         "frmPlotOpt2DC", "Options of the contour plot.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("exCo"), by_value("res"), by_value("col"),
-                                         by_value("dis"), by_value("BackC"), by_value("distper")},
-                                        "Fills the dialog."),
-               redraw_row<D>(),
-               method<D, &D::GetDist>("GetDist", {by_reference("distPerc")},
-                                      "Interval of the lines, and whether it is in measurement units."),
-               result_row<D, &D::GetReso>("GetReso", "Fineness of the raster."),
-               result_row<D, &D::GetMarkeSites>("GetMarkeSites", "Which marks are drawn."),
-               result_row<D, &D::GetShowColor>("GetShowColor", "Colours of the lines."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("exCo"),
+                                     by_value("res"), by_value("col"), by_value("dis"), by_value("BackC"),
+                                     by_value("distper")),
+               redraw_row(),
+               method<&D::GetDist>("GetDist", "Interval of the lines, and whether it is in measurement units.",
+                                   by_reference("distPerc")),
+               method<&D::GetReso>("GetReso", "Fineness of the raster."),
+               method<&D::GetMarkeSites>("GetMarkeSites", "Which marks are drawn."),
+               method<&D::GetShowColor>("GetShowColor", "Colours of the lines."),
+               method<&D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
     return table;
 }
 

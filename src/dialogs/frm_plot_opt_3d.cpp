@@ -34,12 +34,12 @@ constexpr std::array<std::int16_t, 3> plot_types = {1, 3, 2};
 
 template <class D> std::vector<Member> view_rows()
 {
-    return {result_row<D, &D::GetAlp>("GetAlp", "Rotation in degrees."),
-            result_row<D, &D::GetThet>("GetThet", "Inclination in degrees."),
-            result_row<D, &D::GetResx>("GetResx", "Size along x in mm."),
-            result_row<D, &D::GetResy>("GetResy", "Size along y in mm."),
-            result_row<D, &D::GetPlotSccale>("GetPlotSccale", "Scale of the values."),
-            redraw_row<D>()};
+    return {method<&D::GetAlp>("GetAlp", "Rotation in degrees."),
+            method<&D::GetThet>("GetThet", "Inclination in degrees."),
+            method<&D::GetResx>("GetResx", "Size along x in mm."),
+            method<&D::GetResy>("GetResy", "Size along y in mm."),
+            method<&D::GetPlotSccale>("GetPlotSccale", "Scale of the values."),
+            redraw_row()};
 }
 
 void add_fields(RowLayout& rows, std::initializer_list<NumberField*> fields)
@@ -106,13 +106,12 @@ Interface const& frmPlotOpt3d::host_interface() const
     static Interface const table{
         "frmPlotOpt3d", "Options of the surface plot.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("Xres"), by_value("yres"), by_value("al"),
-                                         by_value("the"), by_value("d3scal"), by_value("plotop"), by_value("BackC")},
-                                        "Fills the dialog.")},
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("Xres"),
+                                     by_value("yres"), by_value("al"), by_value("the"), by_value("d3scal"),
+                                     by_value("plotop"), by_value("BackC"))},
               view_rows<D>(),
-              {result_row<D, &D::GetPlotType>("GetPlotType", "What the cells look like."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
+              {method<&D::GetPlotType>("GetPlotType", "What the cells look like."),
+               method<&D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
     return table;
 }
 
@@ -150,13 +149,12 @@ Interface const& frmPlotOpt3ds::host_interface() const
     static Interface const table{
         "frmPlotOpt3ds", "Options of the sigma surface.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("Xres"), by_value("yres"), by_value("sig"),
-                                         by_value("al"), by_value("the"), by_value("d3scal"), by_value("BackC")},
-                                        "Fills the dialog.")},
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("Xres"),
+                                     by_value("yres"), by_value("sig"), by_value("al"), by_value("the"),
+                                     by_value("d3scal"), by_value("BackC"))},
               view_rows<D>(),
-              {result_row<D, &D::GetSigRange>("GetSigRange", "Half width of the sigma band."),
-               result_row<D, &D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
+              {method<&D::GetSigRange>("GetSigRange", "Half width of the sigma band."),
+               method<&D::GetBackColor>("GetBackColor", "Colour around the plot.")}})};
     return table;
 }
 
@@ -190,10 +188,8 @@ Interface const& frmPlotOpt2DB::host_interface() const
     static Interface const table{
         "frmPlotOpt2DB", "Options of the bar plot.",
         join({place_and_looks(),
-              {method<D, &D::SetValues>("SetValues",
-                                        {by_reference("wafo"), by_value("Xres"), by_value("yres"), by_value("al"),
-                                         by_value("the"), by_value("d3scal")},
-                                        "Fills the dialog.")},
+              {method<&D::SetValues>("SetValues", "Fills the dialog.", by_reference("wafo"), by_value("Xres"),
+                                     by_value("yres"), by_value("al"), by_value("the"), by_value("d3scal"))},
               view_rows<D>()})};
     return table;
 }

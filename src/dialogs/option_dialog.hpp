@@ -94,15 +94,10 @@ public:
 
 extern OptionRow const show_before_hide[2];
 
-/// The row of a member without arguments.
-template <class D, auto Getter> Member result_row(std::string_view name, std::string_view help)
+/// The row that all option dialogs have in their interface tables.
+inline Member redraw_row()
 {
-    return method<D, Getter>(name, {}, help);
-}
-
-template <class D> Member redraw_row()
-{
-    return result_row<D, &D::Redraw>("Redraw", "True after an accepted OK.");
+    return method<&OptionDialog::Redraw>("Redraw", "True after an accepted OK.");
 }
 
 } // namespace zendara

@@ -54,16 +54,14 @@ void PropertyPage::place(RowLayout& rows)
 Interface const& PropertyPage::host_interface() const
 {
     using P = PropertyPage;
-    constexpr auto both = MemberKind::GetPut;
     static Interface const table{
         "PropertyPage", "A property page of a control.",
         join({place_and_looks(),
-              {accessors<P, P, ObjectList, ObjectList, &P::SelectedControls, &P::SelectedControls>(
-                   "SelectedControls", both, "The controls of the page; the first one counts."),
-               accessors<P, P, BooleanWord, BooleanWord, &P::Changed, &P::Changed>("Changed", both,
-                                                                                   "Whether a field has been edited."),
-               method<P, &P::SelectionChanged>("SelectionChanged", {}, "Reads the first control."),
-               method<P, &P::ApplyChanges>("ApplyChanges", {}, "Writes to the first control.")}})};
+              {property<P, ObjectList, &P::SelectedControls, &P::SelectedControls>(
+                   "SelectedControls", "The controls of the page; the first one counts."),
+               property<P, BooleanWord, &P::Changed, &P::Changed>("Changed", "Whether a field has been edited."),
+               method<&P::SelectionChanged>("SelectionChanged", "Reads the first control."),
+               method<&P::ApplyChanges>("ApplyChanges", "Writes to the first control.")}})};
     return table;
 }
 

@@ -15,10 +15,10 @@ void CheckBox::Value(std::int16_t value)
 Interface const& CheckBox::host_interface() const
 {
     using B = CheckBox;
-    static Interface const table{"CheckBox", "A box with a tick.",
-                                 join({place_and_looks(),
-                                       {accessors<B, B, std::int16_t, std::int16_t, &B::Value, &B::Value>(
-                                           "Value", MemberKind::GetPut, "0 unchecked, 1 checked, 2 greyed.")}})};
+    static Interface const table{
+        "CheckBox", "A box with a tick.",
+        join({place_and_looks(),
+              {property<B, std::int16_t, &B::Value, &B::Value>("Value", "0 unchecked, 1 checked, 2 greyed.")}})};
     return table;
 }
 

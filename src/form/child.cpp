@@ -87,32 +87,29 @@ std::vector<Member> Child::place_and_looks()
 {
     using C = Child;
     using W = Widget;
-    using Text = std::string const&;
-    constexpr auto both = MemberKind::GetPut;
     return {
-        getter<C, &C::Name>("Name", "Name of the child."),
-        accessors<C, W, Text, std::string, &W::caption, &W::caption>("caption", both, "Text that the child shows."),
-        accessors<C, W, Text, std::string, &W::ToolTipText, &W::ToolTipText>("ToolTipText", both,
-                                                                             "Text beside the pointer."),
-        accessors<C, W, bool, bool, &W::Visible, &W::Visible>("Visible", both, "Whether the child shows."),
-        accessors<C, C, bool, bool, &C::Enabled, &C::Enabled>("Enabled", both, "Whether the child answers the user."),
-        accessors<C, W, Color, Color, &W::BackColor, &W::BackColor>("BackColor", both, "Colour of the ground."),
-        accessors<C, W, double, double, &W::Left, &W::Left>("Left", both, "Left edge in the container."),
-        accessors<C, W, double, double, &W::Top, &W::Top>("Top", both, "Upper edge in the container."),
-        accessors<C, W, double, double, &W::Width, &W::Width>("Width", both, "Width in the container's unit."),
-        accessors<C, W, double, double, &W::Height, &W::Height>("Height", both, "Height in the container's unit."),
-        method<C, &W::Move>("Move", {by_value("left"), by_value("top"), by_value("width"), by_value("height")},
-                            "Gives the child another place and size."),
+        getter<&C::Name>("Name", "Name of the child."),
+        text_property<W, &W::caption, &W::caption>("caption", "Text that the child shows."),
+        text_property<W, &W::ToolTipText, &W::ToolTipText>("ToolTipText", "Text beside the pointer."),
+        property<W, bool, &W::Visible, &W::Visible>("Visible", "Whether the child shows."),
+        property<C, bool, &C::Enabled, &C::Enabled>("Enabled", "Whether the child answers the user."),
+        property<W, Color, &W::BackColor, &W::BackColor>("BackColor", "Colour of the ground."),
+        property<W, double, &W::Left, &W::Left>("Left", "Left edge in the container."),
+        property<W, double, &W::Top, &W::Top>("Top", "Upper edge in the container."),
+        property<W, double, &W::Width, &W::Width>("Width", "Width in the container's unit."),
+        property<W, double, &W::Height, &W::Height>("Height", "Height in the container's unit."),
+        method<&W::Move>("Move", "Gives the child another place and size.", by_value("left"), by_value("top"),
+                         by_value("width"), by_value("height")),
     };
 }
 
 Interface const& Child::host_interface() const
 {
-    static Interface const table{"Child", "A child window.",
-                                 join({place_and_looks(),
-                                       {accessors<Child, Child, Color, Color, &Child::ForeColor, &Child::ForeColor>(
-                                            "ForeColor", MemberKind::GetPut, "Colour of the text."),
-                                        method<Child, &Child::Refresh>("Refresh", {}, "Shows the child at once.")}})};
+    static Interface const table{
+        "Child", "A child window.",
+        join({place_and_looks(),
+              {property<Child, Color, &Child::ForeColor, &Child::ForeColor>("ForeColor", "Colour of the text."),
+               method<&Child::Refresh>("Refresh", "Shows the child at once.")}})};
     return table;
 }
 

@@ -30,12 +30,11 @@ void Window::MousePointer(std::int16_t pointer)
 Interface const& Window::host_interface() const
 {
     using W = Window;
-    static Interface const table{
-        "Window", "The window of a control or a dialog.",
-        join({place_and_looks(),
-              {accessors<W, W, std::int16_t, std::int16_t, &W::MousePointer, &W::MousePointer>(
-                   "MousePointer", MemberKind::GetPut, "Form of the pointer: 0 the usual one, 11 the hourglass."),
-               method<W, &W::Refresh>("Refresh", {}, "Shows the window at once.")}})};
+    static Interface const table{"Window", "The window of a control or a dialog.",
+                                 join({place_and_looks(),
+                                       {property<W, std::int16_t, &W::MousePointer, &W::MousePointer>(
+                                            "MousePointer", "Form of the pointer: 0 the usual one, 11 the hourglass."),
+                                        method<&W::Refresh>("Refresh", "Shows the window at once.")}})};
     return table;
 }
 
@@ -107,9 +106,9 @@ void ImageBox::Picture(std::shared_ptr<Image const> picture)
     changed(Aspect::Content);
 }
 
-void TextBox::Text(std::string text)
+void TextBox::Text(std::string_view text)
 {
-    text_ = std::move(text);
+    text_ = text;
     changed(Aspect::Content);
     raise("Change");
 }
@@ -118,9 +117,7 @@ Interface const& TextBox::host_interface() const
 {
     static Interface const table{
         "TextBox", "A line of text that the user may change.",
-        join({place_and_looks(),
-              {accessors<TextBox, TextBox, std::string const&, std::string, &TextBox::Text, &TextBox::Text>(
-                  "Text", MemberKind::GetPut, "The text.")}})};
+        join({place_and_looks(), {text_property<TextBox, &TextBox::Text, &TextBox::Text>("Text", "The text.")}})};
     return table;
 }
 
@@ -128,7 +125,7 @@ Interface const& child_array_interface()
 {
     static Interface const table{"ChildArray",
                                  "Children under one name, told apart by an index.",
-                                 {getter<WidgetArray, &WidgetArray::Count>("Count", "Number of elements.")}};
+                                 {getter<&WidgetArray::Count>("Count", "Number of elements.")}};
     return table;
 }
 

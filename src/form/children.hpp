@@ -164,7 +164,7 @@ public:
     using Child::Child;
 
     std::string const& Text() const { return text_; }
-    void Text(std::string text);
+    void Text(std::string_view text);
 
     Interface const& host_interface() const override;
     void accept(ChildVisitor& visitor) override { visitor.visit(*this); }

@@ -19,19 +19,18 @@ Interface const& LineShape::host_interface() const
     using L = LineShape;
     using C = Child;
     using W = Widget;
-    constexpr auto both = MemberKind::GetPut;
     static Interface const table{
         "Line",
         "A straight line on its container.",
         {
-            getter<L, &C::Name>("Name", "Name of the line."),
-            accessors<L, W, bool, bool, &W::Visible, &W::Visible>("Visible", both, "Whether the line shows."),
-            accessors<L, C, Color, Color, &C::ForeColor, &C::ForeColor>("ForeColor", both, "Colour of the line."),
-            accessors<L, L, double, double, &L::X1, &L::X1>("X1", both, "First point, in the container's unit."),
-            accessors<L, L, double, double, &L::Y1, &L::Y1>("Y1", both, "First point, in the container's unit."),
-            accessors<L, L, double, double, &L::X2, &L::X2>("X2", both, "Second point, in the container's unit."),
-            accessors<L, L, double, double, &L::Y2, &L::Y2>("Y2", both, "Second point, in the container's unit."),
-            method<L, &C::Refresh>("Refresh", {}, "Shows the line at once."),
+            getter<&C::Name>("Name", "Name of the line."),
+            property<W, bool, &W::Visible, &W::Visible>("Visible", "Whether the line shows."),
+            property<C, Color, &C::ForeColor, &C::ForeColor>("ForeColor", "Colour of the line."),
+            property<L, double, &L::X1, &L::X1>("X1", "First point, in the container's unit."),
+            property<L, double, &L::Y1, &L::Y1>("Y1", "First point, in the container's unit."),
+            property<L, double, &L::X2, &L::X2>("X2", "Second point, in the container's unit."),
+            property<L, double, &L::Y2, &L::Y2>("Y2", "Second point, in the container's unit."),
+            method<&C::Refresh>("Refresh", "Shows the line at once."),
         }};
     return table;
 }
@@ -42,10 +41,10 @@ Interface const& LineShape::Points::host_interface() const
     static Interface const table{"Points",
                                  "The two points of a line.",
                                  {
-                                     field<L, &L::X1>("X1", "First point."),
-                                     field<L, &L::Y1>("Y1", "First point."),
-                                     field<L, &L::X2>("X2", "Second point."),
-                                     field<L, &L::Y2>("Y2", "Second point."),
+                                     field<&L::X1>("X1", "First point."),
+                                     field<&L::Y1>("Y1", "First point."),
+                                     field<&L::X2>("X2", "Second point."),
+                                     field<&L::Y2>("Y2", "Second point."),
                                  }};
     return table;
 }

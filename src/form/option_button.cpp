@@ -29,8 +29,7 @@ Interface const& OptionButton::host_interface() const
     using B = OptionButton;
     static Interface const table{
         "OptionButton", "A round button, one of several.",
-        join({place_and_looks(),
-              {accessors<B, B, bool, bool, &B::Value, &B::Value>("Value", MemberKind::GetPut, "Whether it is on.")}})};
+        join({place_and_looks(), {property<B, bool, &B::Value, &B::Value>("Value", "Whether it is on.")}})};
     return table;
 }
 

@@ -31,11 +31,10 @@ Interface const& PropertyBag::host_interface() const
         "PropertyBag",
         "A property store in memory.",
         {
-            method<B, &B::ReadProperty>("ReadProperty", {by_value("key"), optional(by_value("default"), Empty{})},
-                                        "Value under a key, or the default."),
-            method<B, &B::WriteProperty>("WriteProperty",
-                                         {by_value("key"), by_value("value"), optional(by_value("default"), Empty{})},
-                                         "Stores a value under a key."),
+            method<&B::ReadProperty>("ReadProperty", "Value under a key, or the default.", by_value("key"),
+                                     optional(by_value("default"), Empty{})),
+            method<&B::WriteProperty>("WriteProperty", "Stores a value under a key.", by_value("key"),
+                                      by_value("value"), optional(by_value("default"), Empty{})),
         }};
     return table;
 }

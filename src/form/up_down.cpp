@@ -30,12 +30,11 @@ Interface const& UpDown::host_interface() const
     using U = UpDown;
     static Interface const table{"UpDown", "A pair of arrow buttons that counts a number up and down.",
                                  join({place_and_looks(),
-                                       {accessors<U, U, std::int32_t, std::int32_t, &U::Value, &U::Value>(
-                                            "Value", MemberKind::GetPut, "The number."),
-                                        field<U, &U::Increment>("Increment", "What a click adds or takes away."),
-                                        field<U, &U::Min>("Min", "Lowest number that clicks reach."),
-                                        field<U, &U::Max>("Max", "Highest number that clicks reach."),
-                                        field<U, &U::Wrap>("Wrap", "Whether clicks go on at the other bound.")}})};
+                                       {property<U, std::int32_t, &U::Value, &U::Value>("Value", "The number."),
+                                        field<&U::Increment>("Increment", "What a click adds or takes away."),
+                                        field<&U::Min>("Min", "Lowest number that clicks reach."),
+                                        field<&U::Max>("Max", "Highest number that clicks reach."),
+                                        field<&U::Wrap>("Wrap", "Whether clicks go on at the other bound.")}})};
     return table;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <iterator>
-#include <stdexcept>
+#include <utility>
 
 namespace zendara
 {
@@ -26,6 +26,19 @@ std::pair<Member const*, Object*> resolve(Object& object, std::string_view name)
     no_such_member(object, name);
 }
 
+/// Takes the arguments that were filled in away again, also after a failure.
+class ArgumentCount
+{
+public:
+    ArgumentCount(std::vector<Value>& arguments, std::size_t count) : arguments_(arguments), count_(count) {}
+    ArgumentCount(ArgumentCount const&) = delete;
+    ~ArgumentCount() { arguments_.resize(count_); }
+
+private:
+    std::vector<Value>& arguments_;
+    std::size_t count_;
+};
+
 Value invoke(Member const& member, Object& owner, std::vector<Value>& arguments)
 {
     auto const given = arguments.size();
@@ -39,9 +52,8 @@ Value invoke(Member const& member, Object& owner, std::vector<Value>& arguments)
                                                              std::to_string(given));
     for (std::size_t i = given; i < declared.size(); ++i)
         arguments.push_back(*declared[i].default_value);
-    Value result = member.invoke(owner, arguments);
-    arguments.resize(given);
-    return result;
+    ArgumentCount const as_given(arguments, given);
+    return member.invoke(owner, arguments);
 }
 
 } // namespace
@@ -106,6 +118,22 @@ bool equals_ignoring_case(std::string_view left, std::string_view right)
                       [&](char a, char b) { return lower(a) == lower(b); });
 }
 
+Interface::Interface(std::string_view class_name, std::string_view help, std::vector<Member> members,
+                     std::vector<Event> events)
+    : class_name(class_name), help(help), members(std::move(members)), events(std::move(events))
+{
+    auto const number = [](auto& rows) {
+        std::int32_t place = 0;
+        for (auto& row : rows) {
+            ++place;
+            if (row.dispatch_id == 0)
+                row.dispatch_id = place;
+        }
+    };
+    number(this->members);
+    number(this->events);
+}
+
 Member const* Interface::find(std::string_view name) const
 {
     auto const found = std::find_if(members.begin(), members.end(),
@@ -122,9 +150,71 @@ std::vector<Enumeration const*> Interface::enumerations() const
     return used;
 }
 
+std::vector<Member const*> Interface::stored_members() const
+{
+    std::vector<Member const*> stored;
+    for (auto const& member : members)
+        if (member.stored)
+            stored.push_back(&member);
+    std::sort(stored.begin(), stored.end(),
+              [](Member const* one, Member const* other) { return one->stored->place < other->stored->place; });
+    return stored;
+}
+
+Member Member::of_kind(MemberKind other) &&
+{
+    kind = other;
+    return std::move(*this);
+}
+
+Member Member::of_type(Type other) &&
+{
+    type = other;
+    return std::move(*this);
+}
+
+Member Member::of(Enumeration const& values) &&
+{
+    type = Type::Enumeration;
+    enumeration = &values;
+    return std::move(*this);
+}
+
+Member Member::known_as(std::int32_t id) &&
+{
+    dispatch_id = id;
+    return std::move(*this);
+}
+
+Member Member::saved(int place, std::string key, Value default_value) &&
+{
+    stored = Stored{place, key, std::move(default_value), key, name};
+    return std::move(*this);
+}
+
+Member Member::saved(int place, std::string key) &&
+{
+    stored = Stored{place, key, std::nullopt, key, name};
+    return std::move(*this);
+}
+
+Member Member::read_from(std::string key) &&
+{
+    stored->key_on_read = std::move(key);
+    return std::move(*this);
+}
+
+Member Member::read_into(std::string_view property) &&
+{
+    stored->property_on_read = property;
+    return std::move(*this);
+}
+
 Value get_member(Object& object, std::string_view name)
 {
     auto const [member, owner] = resolve(object, name);
+    if (member->kind == MemberKind::Set)
+        throw Failure(FailureKind::NoSuchMember, std::string(member->name) + " cannot be read");
     if (member->get != nullptr)
         return member->get(*owner);
     std::vector<Value> none;
@@ -146,17 +236,26 @@ Value call_member(Object& object, std::string_view name, std::vector<Value>& arg
         return invoke(*member, *owner, arguments);
     if (!arguments.empty())
         throw Failure(FailureKind::InvalidProcedureCall, std::string(member->name) + " is a property, not a method");
-    return member->get(*owner);
+    return get_member(*owner, name);
 }
 
-std::vector<Argument> detail::typed(std::vector<Argument> arguments, std::vector<Type> const& types,
-                                    std::string_view member)
+Member detail::row(std::string_view name, MemberKind kind, Type type, std::string_view help)
 {
-    if (arguments.size() != types.size())
-        throw std::logic_error("the interface table names another count of arguments than " + std::string(member));
-    for (std::size_t i = 0; i < arguments.size(); ++i)
-        arguments[i].type = types[i];
-    return arguments;
+    Member member;
+    member.name = name;
+    member.kind = kind;
+    member.type = type;
+    member.help = help;
+    return member;
+}
+
+std::vector<Argument> detail::typed(std::span<Argument const> arguments, std::span<Type const> types)
+{
+    std::vector<Argument> typed(arguments.begin(), arguments.end());
+    for (std::size_t i = 0; i < typed.size(); ++i)
+        if (typed[i].type == Type::None)
+            typed[i].type = types[i];
+    return typed;
 }
 
 std::vector<Member> join(std::vector<std::vector<Member>> lists)

@@ -2,8 +2,14 @@
 
 #include "zendara/support/checked.hpp"
 
+#include <optional>
+#include <string_view>
+
 namespace zendara
 {
+
+template <class T> constexpr bool is_optional = false;
+template <class T> constexpr bool is_optional<std::optional<T>> = true;
 
 template <class T> T from_value(Value const& value)
 {
@@ -29,6 +35,8 @@ template <class T> T from_value(Value const& value)
         return to_array(value);
     } else if constexpr (std::is_same_v<T, ObjectList>) {
         return to_object_list(value);
+    } else if constexpr (is_optional<T>) {
+        return std::holds_alternative<Empty>(value) ? T() : T(from_value<typename T::value_type>(value));
     } else {
         static_assert(std::is_pointer_v<T>, "no conversion from an interface value to this type");
         Object* const object = to_object(value);
@@ -52,6 +60,8 @@ template <class T> Value to_value(T&& result)
         return Value(BooleanWord(result).word);
     else if constexpr (std::is_enum_v<Plain>)
         return Value(static_cast<std::int32_t>(result));
+    else if constexpr (std::is_same_v<Plain, std::string_view>)
+        return Value(std::string(result));
     else if constexpr (std::is_pointer_v<Plain>)
         return Value(static_cast<Object*>(result));
     else

@@ -46,8 +46,8 @@ Interface const& PdfPrinter::host_interface() const
     using P = PdfPrinter;
     static Interface const table{"PdfPrinter",
                                  "A printer whose pages go into a PDF or SVG file.",
-                                 {method<P, &P::NewPage>("NewPage", {}, "Ends the page and begins another one."),
-                                  method<P, &P::EndDoc>("EndDoc", {}, "Ends the last page and writes the file.")}};
+                                 {method<&P::NewPage>("NewPage", "Ends the page and begins another one."),
+                                  method<&P::EndDoc>("EndDoc", "Ends the last page and writes the file.")}};
     return table;
 }
 

@@ -73,94 +73,25 @@ constexpr int is_relative = 8;
 constexpr int is_box = 16;
 constexpr int is_filled_box = 32;
 
-void line_by_flags(Surface& surface, int flags, double x1, double y1, double x2, double y2, Color color)
+} // namespace
+
+void Surface::line_by_flags(std::int16_t flags, double x1, double y1, double x2, double y2, Color color)
 {
     if ((flags & has_first_point) == 0) {
-        x1 = surface.CurrentX;
-        y1 = surface.CurrentY;
+        x1 = CurrentX;
+        y1 = CurrentY;
     }
     if ((flags & is_relative) != 0) {
         x2 += x1;
         y2 += y1;
     }
     if ((flags & is_filled_box) != 0)
-        surface.FillBox(x1, y1, x2, y2, color);
+        FillBox(x1, y1, x2, y2, color);
     else if ((flags & is_box) != 0)
-        surface.Box(x1, y1, x2, y2, color);
+        Box(x1, y1, x2, y2, color);
     else
-        surface.Line(x1, y1, x2, y2, color);
+        Line(x1, y1, x2, y2, color);
 }
-
-Member line_member()
-{
-    Member line;
-    line.name = "Line";
-    line.help =
-        "Draws a line or a box: 2 colour given, 4 first point given, 8 second point relative, 16 box, 32 filled.";
-    for (auto const* name : {"flags", "x1", "y1", "x2", "y2", "color"})
-        line.arguments.push_back(by_value(name));
-    for (auto& argument : line.arguments)
-        argument.type = Type::R8;
-    line.arguments.front().type = Type::I2;
-    line.arguments.back().type = Type::Color;
-    line.invoke = [](Object& object, std::span<Value> values) -> Value {
-        auto const number = [&](std::size_t i) { return to_double(values[i]); };
-        line_by_flags(detail::as_class<Surface>(object), from_value<std::int16_t>(values[0]), number(1), number(2),
-                      number(3), number(4), from_value<Color>(values[5]));
-        return Empty{};
-    };
-    return line;
-}
-
-Member circle_member()
-{
-    Member circle;
-    circle.name = "Circle";
-    circle.help = "Draws a circle; in ForeColor where no colour is given.";
-    for (auto const* name : {"x", "y", "radius"}) {
-        circle.arguments.push_back(by_value(name));
-        circle.arguments.back().type = Type::R8;
-    }
-    circle.arguments.push_back(optional(by_value("color"), Empty{}));
-    circle.arguments.back().type = Type::Color;
-    circle.invoke = [](Object& object, std::span<Value> values) -> Value {
-        std::optional<Color> color;
-        if (!std::holds_alternative<Empty>(values[3]))
-            color = from_value<Color>(values[3]);
-        detail::as_class<Surface>(object).Circle(to_double(values[0]), to_double(values[1]), to_double(values[2]),
-                                                 color);
-        return Empty{};
-    };
-    return circle;
-}
-
-template <auto Field> Member font_part(std::string_view name, std::string_view help)
-{
-    using Plain = std::remove_cvref_t<decltype(std::declval<FontFace&>().*Field)>;
-    Member member;
-    member.name = name;
-    member.kind = MemberKind::GetPut;
-    member.type = detail::type_of<Plain>();
-    member.help = help;
-    member.get = [](Object& object) { return to_value(detail::as_class<Surface>(object).Font.*Field); };
-    member.put = [](Object& object, Value const& value) {
-        detail::as_class<Surface>(object).Font.*Field = from_value<Plain>(value);
-    };
-    return member;
-}
-
-Member text_member(std::string_view name, std::string_view help, Member::Invoke invoke)
-{
-    Member member;
-    member.name = name;
-    member.help = help;
-    member.arguments.push_back(by_value("text"));
-    member.arguments.back().type = Type::Bstr;
-    member.invoke = invoke;
-    return member;
-}
-
-} // namespace
 
 Interface const& Surface::host_interface() const
 {
@@ -169,49 +100,44 @@ Interface const& Surface::host_interface() const
         "Surface",
         "What all plots draw on: a picture or a printer.",
         {
-            method<S, &S::Cls>("Cls", {}, "Clears to the background."),
-            method<S, &S::Refresh>("Refresh", {}, "Shows what has been drawn so far."),
-            line_member(),
-            circle_member(),
-            text_member("Print", "Writes a text at the current position.",
-                        [](Object& object, std::span<Value> values) -> Value {
-                            detail::as_class<Surface>(object).Print(to_text(values[0]));
-                            return Empty{};
-                        }),
-            text_member("TextWidth", "Width of a text in surface units.",
-                        [](Object& object, std::span<Value> values) -> Value {
-                            return detail::as_class<Surface>(object).TextWidth(to_text(values[0]));
-                        }),
-            text_member("TextHeight", "Height of a text in surface units.",
-                        [](Object& object, std::span<Value> values) -> Value {
-                            return detail::as_class<Surface>(object).TextHeight(to_text(values[0]));
-                        }),
-            getter<S, &S::ScaleLeft>("ScaleLeft", "Left edge of the inner area in surface units."),
-            getter<S, &S::ScaleTop>("ScaleTop", "Upper edge of the inner area in surface units."),
-            getter<S, &S::ScaleWidth>("ScaleWidth", "Width of the inner area in surface units."),
-            getter<S, &S::ScaleHeight>("ScaleHeight", "Height of the inner area in surface units."),
-            accessors<S, S, std::int16_t, std::int16_t, &S::ScaleMode, &S::ScaleMode>(
-                "ScaleMode", MemberKind::GetPut, "Unit of the coordinates: 1 twips, 3 pixels."),
-            getter<S, &S::TwipsPerPixelX>("TwipsPerPixelX", "Twips in a pixel's width."),
-            getter<S, &S::TwipsPerPixelY>("TwipsPerPixelY", "Twips in a pixel's height."),
-            field<S, &S::CurrentX>("CurrentX", "Where the next text or line begins."),
-            field<S, &S::CurrentY>("CurrentY", "Where the next text or line begins."),
-            field<S, &S::ForeColor>("ForeColor", "Colour of pen and text."),
-            field<S, &S::FillColor>("FillColor", "Colour of fills."),
-            field<S, &S::BackColor>("BackColor", "Background colour."),
-            field<S, &S::DrawStyle>("DrawStyle", "Pen: 0 solid, 5 none."),
-            field<S, &S::DrawWidth>("DrawWidth", "Width of the pen in pixels."),
-            field<S, &S::FillStyle>("FillStyle", "Fill: 0 solid, 1 none, 7 diagonal cross."),
-            field<S, &S::FontTransparent>("FontTransparent", "The ground shows through text."),
-            font_part<&FontFace::Name>("FontName", "Text face."),
-            font_part<&FontFace::size>("FontSize", "Text size in points."),
-            font_part<&FontFace::Bold>("FontBold", "Text in bold."),
-            font_part<&FontFace::Underline>("FontUnderline", "Text with a line below."),
-            getter<S, &S::hdc>("hdc", "Device handle."),
-            field<S, &S::left>("left", "Place in the container."),
-            field<S, &S::top>("top", "Place in the container."),
-            field<S, &S::width>("width", "Size in the container; page width of a printer, in twips."),
-            field<S, &S::height>("height", "Size in the container; page height of a printer, in twips."),
+            method<&S::Cls>("Cls", "Clears to the background."),
+            method<&S::Refresh>("Refresh", "Shows what has been drawn so far."),
+            method<&S::line_by_flags>("Line",
+                                      "Draws a line or a box: 2 colour given, 4 first point given, 8 second point "
+                                      "relative, 16 box, 32 filled.",
+                                      by_value("flags"), by_value("x1"), by_value("y1"), by_value("x2"), by_value("y2"),
+                                      by_value("color").as(Type::Color)),
+            method<&S::Circle>("Circle", "Draws a circle; in ForeColor where no colour is given.", by_value("x"),
+                               by_value("y"), by_value("radius"), optional(by_value("color").as(Type::Color), Empty{})),
+            method<&S::Print>("Print", "Writes a text at the current position.", by_value("text")),
+            method<&S::TextWidth>("TextWidth", "Width of a text in surface units.", by_value("text")),
+            method<&S::TextHeight>("TextHeight", "Height of a text in surface units.", by_value("text")),
+            getter<&S::ScaleLeft>("ScaleLeft", "Left edge of the inner area in surface units."),
+            getter<&S::ScaleTop>("ScaleTop", "Upper edge of the inner area in surface units."),
+            getter<&S::ScaleWidth>("ScaleWidth", "Width of the inner area in surface units."),
+            getter<&S::ScaleHeight>("ScaleHeight", "Height of the inner area in surface units."),
+            property<S, std::int16_t, &S::ScaleMode, &S::ScaleMode>("ScaleMode",
+                                                                    "Unit of the coordinates: 1 twips, 3 pixels."),
+            getter<&S::TwipsPerPixelX>("TwipsPerPixelX", "Twips in a pixel's width."),
+            getter<&S::TwipsPerPixelY>("TwipsPerPixelY", "Twips in a pixel's height."),
+            field<&S::CurrentX>("CurrentX", "Where the next text or line begins."),
+            field<&S::CurrentY>("CurrentY", "Where the next text or line begins."),
+            field<&S::ForeColor>("ForeColor", "Colour of pen and text."),
+            field<&S::FillColor>("FillColor", "Colour of fills."),
+            field<&S::BackColor>("BackColor", "Background colour."),
+            field<&S::DrawStyle>("DrawStyle", "Pen: 0 solid, 5 none."),
+            field<&S::DrawWidth>("DrawWidth", "Width of the pen in pixels."),
+            field<&S::FillStyle>("FillStyle", "Fill: 0 solid, 1 none, 7 diagonal cross."),
+            field<&S::FontTransparent>("FontTransparent", "The ground shows through text."),
+            field<&S::Font, &FontFace::Name>("FontName", "Text face."),
+            field<&S::Font, &FontFace::size>("FontSize", "Text size in points."),
+            field<&S::Font, &FontFace::Bold>("FontBold", "Text in bold."),
+            field<&S::Font, &FontFace::Underline>("FontUnderline", "Text with a line below."),
+            getter<&S::hdc>("hdc", "Device handle."),
+            field<&S::left>("left", "Place in the container."),
+            field<&S::top>("top", "Place in the container."),
+            field<&S::width>("width", "Size in the container; page width of a printer, in twips."),
+            field<&S::height>("height", "Size in the container; page height of a printer, in twips."),
         }};
     return table;
 }

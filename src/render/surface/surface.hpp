@@ -75,6 +75,9 @@ public:
     void BoxStep(double x, double y, double dx, double dy, Color color);
     /// A box filled with the colour, all four edges included: with two equal coordinates it shows as a line.
     void FillBox(double x1, double y1, double x2, double y2, Color color);
+    /// Line, Box or FillBox, by the sum of flags: 2 a colour is given, 4 the first point is given (or else it is the
+    /// current position), 8 the second point is relative to the first, 16 a box, 32 a filled box.
+    void line_by_flags(std::int16_t flags, double x1, double y1, double x2, double y2, Color color);
     /// A circle, its inside as FillStyle and FillColor say; its line in ForeColor where no colour is given.
     void Circle(double x, double y, double radius, std::optional<Color> color = {});
     /// Writes a text; the current position, its top left corner, moves on behind it.

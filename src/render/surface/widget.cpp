@@ -1,19 +1,17 @@
 #include "zendara/render/surface/widget.hpp"
 
-#include <utility>
-
 namespace zendara
 {
 
-void Widget::caption(std::string caption)
+void Widget::caption(std::string_view caption)
 {
-    caption_ = std::move(caption);
+    caption_ = caption;
     changed(Aspect::Caption);
 }
 
-void Widget::ToolTipText(std::string text)
+void Widget::ToolTipText(std::string_view text)
 {
-    tool_tip_ = std::move(text);
+    tool_tip_ = text;
     changed(Aspect::ToolTip);
 }
 

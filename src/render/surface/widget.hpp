@@ -23,8 +23,8 @@ public:
     double Width() const { return width_; }
     double Height() const { return height_; }
 
-    void caption(std::string caption);
-    void ToolTipText(std::string text);
+    void caption(std::string_view caption);
+    void ToolTipText(std::string_view text);
     void Visible(bool is_visible);
     void BackColor(Color color);
     void Left(double left) { Move(left, top_, width_, height_); }
