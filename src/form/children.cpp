@@ -82,7 +82,7 @@ void PictureBox::Cls()
 void PictureBox::changed(Aspect aspect)
 {
     if (aspect == Aspect::Color)
-        surface_->BackColor = BackColor();
+        surface_->set_back_color(BackColor());
     if (aspect == Aspect::Place || aspect == Aspect::Size) {
         surface_->left = Left();
         surface_->top = Top();

@@ -32,6 +32,18 @@ template <class Integer> Integer to_integer(double value, char const* which)
     return static_cast<Integer>(whole);
 }
 
+template <class Integer> Integer nearest(double value)
+{
+    constexpr double least = std::numeric_limits<Integer>::min();
+    constexpr double most = std::numeric_limits<Integer>::max();
+    double const whole = round_half_even(value);
+    if (whole <= least)
+        return std::numeric_limits<Integer>::min();
+    if (whole >= most)
+        return std::numeric_limits<Integer>::max();
+    return std::isnan(whole) ? Integer{0} : static_cast<Integer>(whole);
+}
+
 } // namespace detail
 
 /// Rounds half to even into a 16-bit integer.
@@ -46,6 +58,18 @@ inline std::int16_t to_i16(double value)
 inline std::int32_t to_i32(double value)
 {
     return detail::to_integer<std::int32_t>(value, "a number does not fit into 32 bits");
+}
+
+/// Rounds half to even into the nearest 16-bit integer, NaN into 0: for read-outs, which never fail.
+inline std::int16_t nearest_i16(double value)
+{
+    return detail::nearest<std::int16_t>(value);
+}
+
+/// As nearest_i16, with 32 bits.
+inline std::int32_t nearest_i32(double value)
+{
+    return detail::nearest<std::int32_t>(value);
 }
 
 /// Passes a result of floating-point arithmetic on.

@@ -188,13 +188,20 @@ Member Member::known_as(std::int32_t id) &&
 
 Member Member::saved(int place, std::string key, Value default_value) &&
 {
-    stored = Stored{place, key, std::move(default_value), key, name};
+    stored = Stored{place, key, std::move(default_value), key, name, name};
     return std::move(*this);
 }
 
 Member Member::saved(int place, std::string key) &&
 {
-    stored = Stored{place, key, std::nullopt, key, name};
+    stored = Stored{place, key, std::nullopt, key, name, name};
+    return std::move(*this);
+}
+
+Member Member::saved_as(std::string_view property) &&
+{
+    stored->property = property;
+    stored->property_on_read = property;
     return std::move(*this);
 }
 

@@ -89,6 +89,7 @@ struct Stored {
     std::string key;
     std::optional<Value> default_value; // absent where it is the present value
     std::string key_on_read;
+    std::string_view property; // by the name that the store knows it under
     std::string_view property_on_read;
 };
 
@@ -124,6 +125,8 @@ struct Member {
     Member saved(int place, std::string key, Value default_value) &&;
     /// Saved under a key; the default is the present value.
     Member saved(int place, std::string key) &&;
+    /// Saved as the property of another name, which is its own in other letters.
+    Member saved_as(std::string_view property) &&;
     /// Read from another key than it is written to.
     Member read_from(std::string key) &&;
     /// What is saved of it goes into another property when it is read.

@@ -674,4 +674,18 @@ TEST(RasterPicture, AStretchedImageRepeatsOrSkipsPixels)
     EXPECT_EQ(canvas.rows()[0], "dddddddddd");
 }
 
+TEST(RasterBackground, FollowsItsColourUntilSomethingIsDrawnOnIt)
+{
+    Canvas canvas(3, 1);
+    canvas->set_back_color('b');
+    EXPECT_EQ(canvas.rows(), Rows{"bbb"});
+    canvas->FillBox(1, 0, 1, 0, pen);
+    canvas->set_back_color('c');
+    EXPECT_EQ(canvas.rows(), Rows{"b#b"});
+    canvas->Cls();
+    EXPECT_EQ(canvas.rows(), Rows{"ccc"});
+    canvas->set_back_color('d');
+    EXPECT_EQ(canvas.rows(), Rows{"ddd"});
+}
+
 } // namespace zendara::test

@@ -126,6 +126,19 @@ TEST(Divide, FailsWithOverflowWhereTheQuotientIsNotFinite)
     EXPECT_EQ(failure_of([] { divide(not_a_number, 1); }), FailureKind::Overflow);
 }
 
+TEST(Nearest, RoundsHalfToEvenAndNeverFails)
+{
+    EXPECT_EQ(nearest_i16(2.5), 2);
+    EXPECT_EQ(nearest_i16(32767.4), 32767);
+    EXPECT_EQ(nearest_i16(1e300), 32767);
+    EXPECT_EQ(nearest_i16(-1e300), -32768);
+    EXPECT_EQ(nearest_i16(not_a_number), 0);
+    EXPECT_EQ(nearest_i32(-3.5), -4);
+    EXPECT_EQ(nearest_i32(2147483648.0), 2147483647);
+    EXPECT_EQ(nearest_i32(-std::numeric_limits<double>::infinity()), -2147483647 - 1);
+    EXPECT_EQ(nearest_i32(not_a_number), 0);
+}
+
 TEST(CountOn, CountsTo32767AndFailsThere)
 {
     std::int16_t counter = 32766;

@@ -78,6 +78,14 @@ void RasterPicture::resize(int width_px, int height_px)
         return;
     picture_ = nullptr;
     image_ = new_image(width_px, height_px, BackColor);
+    is_blank_ = true;
+}
+
+void RasterPicture::set_back_color(Color color)
+{
+    BackColor = color;
+    if (is_blank_)
+        draw_cls();
 }
 
 void RasterPicture::set_height(double twips)
@@ -170,6 +178,7 @@ void RasterPicture::draw_cls()
         image_ = new_image(image_->width(), image_->height(), BackColor);
     else
         fill_box(*image_, {0, 0, image_->width(), image_->height()}, {pixel_of(BackColor)});
+    is_blank_ = true;
     if (picture_)
         draw_image(*picture_, 0, 0);
 }
@@ -260,6 +269,7 @@ Image& RasterPicture::own_image()
 {
     if (image_.use_count() > 1)
         image_ = std::make_shared<Image>(*image_);
+    is_blank_ = false;
     return *image_;
 }
 

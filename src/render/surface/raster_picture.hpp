@@ -52,6 +52,7 @@ public:
     std::shared_ptr<Image const> image() const override { return image_; }
     /// Also shows the new background at once, in place of what has been drawn.
     void set_picture(std::shared_ptr<Image const> picture) override;
+    void set_back_color(Color color) override;
     /// The new rows have the background colour; the background picture is given up.
     void set_height(double twips) override;
 
@@ -75,6 +76,7 @@ private:
     std::shared_ptr<Image const> picture_;
     GlyphSource* glyphs_;
     double twips_per_pixel_;
+    bool is_blank_ = true; // nothing has been drawn on the background
 };
 
 } // namespace zendara

@@ -116,6 +116,9 @@ public:
     /// Takes an image as the background that Cls goes back to; nullptr takes it away.
     virtual void set_picture(std::shared_ptr<Image const> picture) = 0;
 
+    /// Writes `BackColor`; a picture with pixels on which nothing has been drawn yet shows it at once.
+    virtual void set_back_color(Color color) { BackColor = color; }
+
     /// Writes `height`; a picture with pixels keeps what it shows, and grows or shrinks at its lower edge.
     /// @throws Failure  Overflow when the pixels cannot be counted
     virtual void set_height(double twips) { height = twips; }
