@@ -4,6 +4,7 @@
 #include "zendara/controls/zv_plot_2d.hpp"
 #include "zendara/files/png_file.hpp"
 #include "zendara/form/window_painter.hpp"
+#include "zendara/panel/load.hpp"
 #include "zendara/platform/headless/headless_platform.hpp"
 
 #include <benchmark/benchmark.h>

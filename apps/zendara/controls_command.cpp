@@ -1,7 +1,7 @@
 #include "commands.hpp"
 #include "json.hpp"
 #include "near_names.hpp"
-#include "zendara/controls/control.hpp"
+#include "zendara/controls/control_classes.hpp"
 #include "zendara/support/interface.hpp"
 
 #include <nlohmann/json.hpp>
@@ -113,12 +113,12 @@ std::string row(std::string const& subject, std::string_view help)
     return text + std::string(help) + '\n';
 }
 
-std::string stored_text(StoredProperty const& stored)
+std::string stored_text(Stored const& stored)
 {
     bool const reads_elsewhere = stored.key_on_read != stored.key || stored.property_on_read != stored.property;
-    auto text = padded(stored.property, 20) + json_text(stored.key);
+    auto text = padded(std::string(stored.property), 20) + json_text(stored.key);
     if (reads_elsewhere)
-        text += ", read from " + json_text(stored.key_on_read) + " into " + stored.property_on_read;
+        text += ", read from " + json_text(stored.key_on_read) + " into " + std::string(stored.property_on_read);
     return text;
 }
 
@@ -138,9 +138,10 @@ std::string description_text(ControlClass const& control)
             text += "  " + padded(std::string(item.name), 24) + std::to_string(item.value) + '\n';
     }
     text += "\nStored properties: keys and defaults\n";
-    for (auto const& stored : control.stored_properties())
-        text += row(stored_text(stored),
-                    stored.default_value ? value_text(*stored.default_value, Type::Variant) : "the present value");
+    for (auto const* const member : table.stored_members())
+        text += row(stored_text(*member->stored), member->stored->default_value
+                                                      ? value_text(*member->stored->default_value, Type::Variant)
+                                                      : "the present value");
     return text;
 }
 
@@ -212,13 +213,14 @@ Json enumerations_json(std::vector<Enumeration const*> const& enumerations)
     return list;
 }
 
-Json stored_json(std::vector<StoredProperty> const& properties)
+Json stored_json(std::vector<Member const*> const& properties)
 {
     Json list = Json::array();
-    for (auto const& stored : properties) {
-        Json entry = {{"property", stored.property},
+    for (auto const* const property : properties) {
+        Stored const& stored = *property->stored;
+        Json entry = {{"property", std::string(stored.property)},
                       {"key", stored.key},
-                      {"property_on_read", stored.property_on_read},
+                      {"property_on_read", std::string(stored.property_on_read)},
                       {"key_on_read", stored.key_on_read}};
         if (stored.default_value) // without one, the control's present value is the default
             entry["default"] = to_json(*stored.default_value);
@@ -235,7 +237,7 @@ Json description_json(ControlClass const& control)
             {"members", members_json(table.members)},
             {"events", events_json(table.events)},
             {"enumerations", enumerations_json(table.enumerations())},
-            {"stored", stored_json(control.stored_properties())}};
+            {"stored", stored_json(table.stored_members())}};
 }
 
 Json list_json()

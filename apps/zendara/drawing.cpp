@@ -32,16 +32,14 @@ void set_limits(Control& control, std::vector<double> const& limits)
     bool const is_range = std::isfinite(limits[0]) && std::isfinite(limits[1]) && limits[0] < limits[1];
     if (!is_range)
         throw UserError("--limits: the lower limit has to lie below the upper one");
-    std::vector<Value> arguments = {limits[0], limits[1]};
-    call_member(control, "SetPlotLimit", arguments);
+    control.SetPlotLimit(limits[0], limits[1]);
 }
 
 void draw(LoadedControl& loaded, std::string const& data_file)
 {
-    std::vector<Value> none;
-    Value const result = call_member(loaded.control(), "Plot", none);
+    std::int16_t const result = loaded.control().Plot();
     tell_messages(loaded.platform());
-    if (to_double(result) != 0)
+    if (result != 0)
         throw UserError(data_file + ": there is nothing to plot", Exit::NothingToPlot);
 }
 

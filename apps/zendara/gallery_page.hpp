@@ -1,6 +1,7 @@
 #pragma once
 
 #include "statistics.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <string>
 #include <vector>

@@ -83,23 +83,16 @@ bool holds(Size const& panel_mm, Size const& extent)
     return extent.width <= panel_mm.width && extent.height <= panel_mm.height;
 }
 
-bool is_done(Value const& result)
-{
-    return to_double(result) == 0;
-}
-
 bool loads_from_file(Control& control, SiteData const& sites, std::string const& file)
 {
     if (sites.source != SiteData::Source::Raw || sites.count() > most_sites_of_a_file)
         return false;
-    std::vector<Value> arguments = {file, static_cast<double>(sites.count())};
-    return is_done(call_member(control, "SetDataFile", arguments));
+    return control.SetDataFile(file, static_cast<double>(sites.count())) == 0;
 }
 
 bool loads_from_arrays(Control& control, SiteData const& sites)
 {
-    std::vector<Value> arguments = {sites.x, sites.y, sites.z};
-    return is_done(call_member(control, "SetPanelData", arguments));
+    return control.SetPanelData(sites.x.values(), sites.y.values(), sites.z.values()) == 0;
 }
 
 } // namespace
@@ -129,8 +122,8 @@ LoadedControl::LoadedControl(std::string const& control, Size const& pixels, Dat
     control_->InitProperties();
     control_->window().resize(pixels.width * platform_.twips_per_pixel_x(),
                               pixels.height * platform_.twips_per_pixel_y());
-    put_member(*control_, "PanelSizeX", panel_mm_.width);
-    put_member(*control_, "PanelSizeY", panel_mm_.height);
+    control_->PanelSizeX(panel_mm_.width);
+    control_->PanelSizeY(panel_mm_.height);
 
     // The file route wants to open the file for writing as well; a file that may only be read goes in by arrays.
     if (!loads_from_file(*control_, sites, data.file) && !loads_from_arrays(*control_, sites))

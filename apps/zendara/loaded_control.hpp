@@ -2,7 +2,7 @@
 
 #include "commands.hpp"
 #include "data_file.hpp"
-#include "zendara/controls/control.hpp"
+#include "zendara/controls/control_classes.hpp"
 #include "zendara/platform/headless/headless_platform.hpp"
 
 #include <memory>

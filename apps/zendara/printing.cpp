@@ -2,32 +2,34 @@
 
 #include "drawing.hpp"
 #include "user_error.hpp"
-
-#include <utility>
+#include "zendara/controls/plot_control.hpp"
 
 namespace zendara::program
 {
 
 PrintedControl::PrintedControl(LoadedControl& loaded, PaperSurface& page, std::string const& data_file)
-    : loaded_(loaded), data_file_(data_file)
+    : loaded_(loaded), control_(loaded.control()), with_legend_(dynamic_cast<PlotControl*>(&control_)),
+      data_file_(data_file)
 {
-    put_member(loaded.control(), "PrinterObj", &page);
+    control_.PrinterObj(&page);
 }
 
 bool PrintedControl::has_legend() const
 {
-    return loaded_.control().host_interface().find("PrintLegend") != nullptr;
+    return with_legend_ != nullptr;
 }
 
 bool PrintedControl::shows_legend() const
 {
-    return has_legend() && to_double(get_member(loaded_.control(), "HideLegend")) == 0;
+    return has_legend() && !control_.HideLegend();
 }
 
 void PrintedControl::print_plot(PageBox const& box)
 {
-    constexpr double too_small = 1;
-    double const result = call("PrintPlot", {box.left, box.top, box.width, box.height});
+    constexpr std::int16_t too_small = 1;
+    BooleanWord with_frame = true;
+    std::int16_t const result = control_.PrintPlot(box.left, box.top, box.width, box.height, with_frame);
+    tell_messages(loaded_.platform());
     if (result == too_small)
         throw UserError("--pixels: a control this small cannot be printed");
     if (result != 0)
@@ -36,29 +38,25 @@ void PrintedControl::print_plot(PageBox const& box)
 
 void PrintedControl::print_legend(double left, double top)
 {
-    print_block("PrintLegend", {left, top});
+    BooleanWord with_frame = true;
+    check_block(with_legend_->PrintLegend(left, top, with_frame));
 }
 
 void PrintedControl::print_size(double left, double top)
 {
-    print_block("PrintPanelSize", {left, top});
+    check_block(control_.PrintPanelSize(left, top));
 }
 
 void PrintedControl::print_statistic(double left, double top, std::string const& units)
 {
-    print_block("PrintPanelStatistic", {left, top, units});
+    check_block(control_.PrintPanelStatistic(left, top, units));
 }
 
-double PrintedControl::call(char const* member, std::vector<Value> arguments)
+// Of what stands beside a plot: 0 where it was printed.
+void PrintedControl::check_block(std::int16_t result)
 {
-    Value const result = call_member(loaded_.control(), member, arguments);
     tell_messages(loaded_.platform());
-    return to_double(result);
-}
-
-void PrintedControl::print_block(char const* member, std::vector<Value> arguments)
-{
-    if (call(member, std::move(arguments)) != 0)
+    if (result != 0)
         nothing_to_plot();
 }
 

@@ -6,6 +6,11 @@
 #include <string>
 #include <vector>
 
+namespace zendara
+{
+class PlotControl;
+}
+
 namespace zendara::program
 {
 
@@ -39,17 +44,18 @@ public:
 
     /// @throws UserError  when there is nothing to plot, or the control is too small to be printed
     void print_plot(PageBox const& box);
+    /// Of a control that has one.
     void print_legend(double left, double top);
     void print_size(double left, double top);
     void print_statistic(double left, double top, std::string const& units);
 
 private:
-    /// Calls a print member; its result is 0 where it has printed.
-    double call(char const* member, std::vector<Value> arguments);
-    void print_block(char const* member, std::vector<Value> arguments);
+    void check_block(std::int16_t result);
     [[noreturn]] void nothing_to_plot() const;
 
     LoadedControl& loaded_;
+    Control& control_;
+    PlotControl* with_legend_; // the same, where it has one
     std::string data_file_;
 };
 

@@ -13,16 +13,17 @@ namespace zendara::program
 /// One figure: the member of the control that tells it, and how a person reads it.
 struct StatisticFigure {
     std::string_view member, label, unit;
+    double (Control::*value)() const;
 };
 
 inline constexpr std::array<StatisticFigure, 7> statistic_figures = {{
-    {"mean", "mean", ""},
-    {"StdDev", "standard deviation", ""},
-    {"Minimum", "minimum", ""},
-    {"Maximum", "maximum", ""},
-    {"range", "range", ""},
-    {"HiLo", "Hi/Lo", " %"},
-    {"StdDevPercent", "standard deviation", " %"},
+    {"mean", "mean", "", &Control::mean},
+    {"StdDev", "standard deviation", "", &Control::StdDev},
+    {"Minimum", "minimum", "", &Control::Minimum},
+    {"Maximum", "maximum", "", &Control::Maximum},
+    {"range", "range", "", &Control::range},
+    {"HiLo", "Hi/Lo", " %", &Control::HiLo},
+    {"StdDevPercent", "standard deviation", " %", &Control::StdDevPercent},
 }};
 
 /// What a control tells of its data, the values in the order of statistic_figures.

@@ -48,8 +48,7 @@ ContourLegend::ContourLegend(LegendColumn& column)
     make_room(column);
     auto const& text = column.ScaleValue(1);
     auto const& swatch = column.scalCol(1);
-    lblInterval.Move(swatch.Left(), 0, 0, row_pitch);
-    lblInterval.AutoSize(true);
+    lblInterval.Move(swatch.Left(), 0, column.legende.Width() - swatch.Left(), scale_top);
     column.further_texts.push_back(&lblInterval);
     for (int row = 1; row <= scale_rows; ++row)
         place(column.ScaleValue(row), column.scalCol(row), scale_top + (row - 1) * row_pitch);

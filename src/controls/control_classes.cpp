@@ -1,5 +1,5 @@
-#include "zendara/controls/control.hpp"
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/control_classes.hpp"
+
 #include "zendara/controls/zv_histogram.hpp"
 #include "zendara/controls/zv_line_scan.hpp"
 #include "zendara/controls/zv_plot_2d.hpp"
@@ -9,6 +9,7 @@
 #include "zendara/controls/zv_plot_3d.hpp"
 #include "zendara/controls/zv_plot_3db.hpp"
 #include "zendara/controls/zv_plot_3ds.hpp"
+#include "zendara/support/interface.hpp"
 
 #include <algorithm>
 #include <array>
@@ -25,15 +26,15 @@ template <class C> std::unique_ptr<Control> make(Platform& platform)
 }
 
 constexpr std::array classes = {
-    ControlClass{"ZvPlot2D", &make<ZvPlot2D>, &ZvPlot2D::interface_table, &stored_properties_of_2d},
-    ControlClass{"ZvPlot2DV", &make<ZvPlot2DV>, &ZvPlot2DV::interface_table, &stored_properties_of_2dv},
-    ControlClass{"ZvPlot2DS", &make<ZvPlot2DS>, &ZvPlot2DS::interface_table, &stored_properties_of_2ds},
-    ControlClass{"ZvPlot2DC", &make<ZvPlot2DC>, &ZvPlot2DC::interface_table, &stored_properties_of_2dc},
-    ControlClass{"ZvPlot3D", &make<ZvPlot3D>, &ZvPlot3D::interface_table, &stored_properties_of_3d},
-    ControlClass{"ZvPlot3DS", &make<ZvPlot3DS>, &ZvPlot3DS::interface_table, &stored_properties_of_3ds},
-    ControlClass{"ZvPlot3DB", &make<ZvPlot3DB>, &ZvPlot3DB::interface_table, &stored_properties_of_3db},
-    ControlClass{"ZvHistogram", &make<ZvHistogram>, &ZvHistogram::interface_table, &stored_properties_of_histogram},
-    ControlClass{"ZvLineScan", &make<ZvLineScan>, &ZvLineScan::interface_table, &stored_properties_of_line_scan},
+    ControlClass{"ZvPlot2D", &make<ZvPlot2D>, &ZvPlot2D::interface_table},
+    ControlClass{"ZvPlot2DV", &make<ZvPlot2DV>, &ZvPlot2DV::interface_table},
+    ControlClass{"ZvPlot2DS", &make<ZvPlot2DS>, &ZvPlot2DS::interface_table},
+    ControlClass{"ZvPlot2DC", &make<ZvPlot2DC>, &ZvPlot2DC::interface_table},
+    ControlClass{"ZvPlot3D", &make<ZvPlot3D>, &ZvPlot3D::interface_table},
+    ControlClass{"ZvPlot3DS", &make<ZvPlot3DS>, &ZvPlot3DS::interface_table},
+    ControlClass{"ZvPlot3DB", &make<ZvPlot3DB>, &ZvPlot3DB::interface_table},
+    ControlClass{"ZvHistogram", &make<ZvHistogram>, &ZvHistogram::interface_table},
+    ControlClass{"ZvLineScan", &make<ZvLineScan>, &ZvLineScan::interface_table},
 };
 
 } // namespace

@@ -89,6 +89,7 @@ void HistogramView::lay_out_lines()
 void HistogramView::BackColor(Color color)
 {
     histPic.BackColor(color);
+    frmhist.BackColor(color);
     window_.BackColor(color);
 }
 

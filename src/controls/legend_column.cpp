@@ -51,20 +51,20 @@ LegendColumn::LegendColumn(Window& window)
     Command1.Move(border, 2805, legend_width, 300);
 }
 
-void LegendColumn::lay_out(double window_width)
+void LegendColumn::lay_out(double window_width, double window_height)
 {
     double legend_width = narrowest_legend;
     for (int i = 1; i <= rows; ++i)
         legend_width = std::max(legend_width, ScaleValue(i).Left() + ScaleValue(i).Width());
-    for (Label const* const text : further_texts)
-        legend_width = std::max(legend_width, text->Left() + text->Width());
     legende.Width(legend_width);
+    for (Label* const text : further_texts)
+        if (!text->AutoSize())
+            text->Width(legend_width - text->Left());
     frleg.Width(legende.Width() + legend_border);
     Frame1.Width(frleg.Width() + column_border);
-    frmove.Width(Frame1.Width());
     Command1.Width(frleg.Width());
     FNLabel.Width(frleg.Width());
-    frmove.Left(window_width - frmove.Width());
+    frmove.Move(window_width - Frame1.Width(), frmove.Top(), Frame1.Width(), window_height);
 }
 
 void LegendColumn::BackColor(Color color)

@@ -23,11 +23,13 @@ public:
     PictureBox FNPic;
     Button Command1;
 
-    /// Texts of a control's own in the legend: it has to be wide enough for them, and they share its back colour.
+    /// Texts of a control's own in the legend. They share its back colour; where they do not size themselves, they
+    /// reach up to its right edge.
     std::vector<Label*> further_texts;
 
-    /// Makes the column as wide as its widest legend text asks for and sets it at the window's right edge.
-    void lay_out(double window_width);
+    /// Makes the column as wide as the widest of the scale's texts asks for and sets it at the window's right edge,
+    /// down to the lower one.
+    void lay_out(double window_width, double window_height);
 
     void BackColor(Color color);
 };

@@ -9,8 +9,9 @@ bool limit_resolution(panel const& record, double& resolution_x, double& resolut
 {
     double const largest_x = record.TestSizeX / 4;
     double const largest_y = record.TestSizeY / 4;
-    bool const lowers_x = resolution_x > largest_x;
-    bool const lowers_y = resolution_y > largest_y;
+    // An axis without extent has no cells that could be too large.
+    bool const lowers_x = largest_x > 0 && resolution_x > largest_x;
+    bool const lowers_y = largest_y > 0 && resolution_y > largest_y;
     if (!lowers_x && !lowers_y)
         return false;
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "zendara/controls/control.hpp"
 #include "zendara/controls/histogram_view.hpp"
-#include "zendara/controls/print_members.hpp"
-#include "zendara/controls/shared_members.hpp"
+#include "zendara/render/surface/drawing_state.hpp"
+
+#include <optional>
 
 namespace zendara
 {
@@ -13,18 +15,16 @@ enum class PlotTyEnum : std::int32_t { vbbottom = 1, vbTop = 2, vbLeft = 3, vbRi
 /// The histogram of one panel's values, with a bell curve, sigma marks and control limits.
 ///
 /// The upright forms show the limits vLcl and vUcl of the panel, the crosswise ones those of ShowControlLimit, which
-/// all histograms of the process have in common. Members beyond those told here are in SharedMembers and PrintMembers;
-/// result 1 of the print members of plots means that the control is narrower than its button or lower than 100 twips.
-class ZvHistogram final : public SharedMembers<ZvHistogram>, public PrintMembers<ZvHistogram>
+/// all histograms of the process have in common. HideLegend hides the options button: there is no legend. Result 1 of
+/// the print members of plots means that the control is narrower than its button or lower than 100 twips.
+class ZvHistogram final : public Control
 {
 public:
     /// Also takes the control limits of the process away.
     explicit ZvHistogram(Platform& platform);
 
     void InitProperties() override;
-    std::vector<StoredProperty> const& stored_properties() const override;
-    Interface const& host_interface() const override { return interface_table(); }
-    static Interface const& interface_table();
+    void ShowPlotOption() override;
 
     /// From which edge the bars grow; any other number becomes vbbottom. Takes effect with the next Plot.
     PlotTyEnum PlotType() const { return static_cast<PlotTyEnum>(plot_type_); }
@@ -36,35 +36,18 @@ public:
     void Resolution(double resolution);
 
     /// Colour of the bars: the panel's ColS2. Takes effect with the next Plot.
-    Color BeamColor() const { return to_i32(frame_.record.ColS2); }
-    void BeamColor(Color color);
+    Color BeamColor() const { return panel_color(&panel::ColS2); }
+    void BeamColor(Color color) { set_panel_color(&panel::ColS2, color, "BeamColor"); }
 
     /// Colour of the bell curve and of the sigma marks: the panel's ColS1. Takes effect with the next Plot.
-    Color GaussCurveColor() const { return to_i32(frame_.record.ColS1); }
-    void GaussCurveColor(Color color);
-
-    /// Draws the histogram.
-    /// @return  0 done, 1 there are no data
-    std::int16_t Plot();
-
-    /// Colour around the plot; the plot keeps its own.
-    Color BackColor() const { return frame_.window.BackColor(); }
-    void BackColor(Color color);
-
-    /// Opens the option dialog; its OK draws anew.
-    void ShowPlotOption();
-
-    /// Hides the options button: there is no legend beside a histogram.
-    BooleanWord HideLegend() const { return !frame_.legend_shown; }
-    void HideLegend(BooleanWord is_hidden);
-
-    void PrintLegend(double, double, BooleanWord&) = delete; // a histogram has none
+    Color GaussCurveColor() const { return panel_color(&panel::ColS1); }
+    void GaussCurveColor(Color color) { set_panel_color(&panel::ColS1, color, "GaussCurveColor"); }
 
     /// Prints the plot in its compact form, without a frame. Result as that of PrintPlot.
     std::int16_t PrintPlot_THN(double left, double top, double width, double height);
 
     /// Does nothing: every Plot draws anew.
-    void SetPlotNotVaild() {}
+    void SetPlotNotVaild() override {}
 
     /// Takes top and height of the plot from another chart of the host, in twips in the control, and lays out at once.
     /// @param topC  0 goes back to the ordinary layout
@@ -78,22 +61,35 @@ public:
     /// Takes those control limits away. Takes effect with the next Plot.
     void ResetControlLimit();
 
+    Interface const& host_interface() const override { return interface_table(); }
+    static Interface const& interface_table();
+
 private:
-    template <class> friend class SharedMembers;
-    template <class> friend class PrintMembers;
+    void set_background(Color color) override { view_.BackColor(color); }
+    void repaint_background() override;
+    void show_legend(bool is_shown) override;
+    void prepare_plot() override { fill_empty_sizes(); }
+    void show_plot() override { draw(); }
+    void clear_display() override;
+    PrintCheck check_print() const override;
+    void print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame) override;
 
-    static constexpr AboutKind about_kind = AboutKind::Histogram;
-
-    void clear_display();
-    void drop_stored_picture() {} // none is kept
     void lay_out();
+    void lay_out_steps();
     void draw();
-    PrintCheck check_print() const;
-    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
+    void draw_again();
+    void draw_statistic(std::int16_t plot_type, double resolution);
 
-    ControlFrame frame_;
+    /// What the plot on the screen was drawn from.
+    struct DrawnWith {
+        DrawingState plot, outer;
+        std::int16_t plot_type;
+        double resolution;
+    };
+
     HistogramView view_;
     HistogramView::ChartDim chart_;
+    std::optional<DrawnWith> drawn_with_;
     std::int16_t plot_type_ = 1;
     double resolution_ = 10;
 };

@@ -1,7 +1,10 @@
 #include "zendara/controls/zv_line_scan.hpp"
 
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/busy.hpp"
+#include "zendara/controls/control_rows.hpp"
+#include "zendara/dialogs/frm_about.hpp"
 #include "zendara/dialogs/frm_plot_opt_1d.hpp"
+#include "zendara/print/print_panel.hpp"
 #include "zendara/render/plots/line_scan_labels.hpp"
 #include "zendara/support/checked.hpp"
 #include "zendara/support/field_check.hpp"
@@ -20,31 +23,6 @@ constexpr std::int16_t key_up = 38;
 constexpr std::int16_t key_down = 40;
 constexpr int full_circle = 360;
 
-/// The looks of a control at work, until the end of the scope.
-class HourglassScope
-{
-public:
-    explicit HourglassScope(Window& window) : window_(window) { window_.MousePointer(11); }
-    HourglassScope(HourglassScope const&) = delete;
-    ~HourglassScope() { window_.MousePointer(0); }
-
-private:
-    Window& window_;
-};
-
-/// A button that does not answer the user, until the end of the scope.
-class DisabledScope
-{
-public:
-    explicit DisabledScope(Button& button) : button_(button) { button_.Enabled(false); }
-    DisabledScope(DisabledScope const&) = delete;
-    DisabledScope& operator=(DisabledScope const&) = delete;
-    ~DisabledScope() { button_.Enabled(true); }
-
-private:
-    Button& button_;
-};
-
 /// A run for the screen takes the whole picture: what it is told of a rectangle is nothing.
 struct NoBox {
     double left = 0, top = 0, width = 0, height = 0;
@@ -59,13 +37,11 @@ Enumeration const& plot_type_enumeration()
 
 } // namespace
 
-ZvLineScan::ZvLineScan(Platform& platform) : frame_(*this, platform, "ZvLineScan"), view_(frame_.window)
+ZvLineScan::ZvLineScan(Platform& platform) : Control(platform, "ZvLineScan", AboutKind::LineScan), view_(window_)
 {
-    std::initializer_list<Child*> const sources = {&frame_.window, &view_.PLOTA, &view_.Plot};
-    frame_.forward(sources, click_events);
-    frame_.forward(sources, mouse_events);
-    frame_.window.on_resize = [this] { lay_out(); };
-    frame_.window.on("Show", [this](std::span<Value>) { show_again(); });
+    forward({"Click", "DblClick", "MouseDown", "MouseMove", "MouseUp"}, {&window_, &view_.PLOTA, &view_.Plot});
+    window_.on_resize = [this] { lay_out(); };
+    window_.on("Show", [this](std::span<Value>) { show_again(); });
     view_.btnoptions.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
     view_.AngleValue.on("Change", [this](std::span<Value>) { angle_text_changed(); });
     view_.AngleValue.on(
@@ -75,10 +51,9 @@ ZvLineScan::ZvLineScan(Platform& platform) : frame_(*this, platform, "ZvLineScan
 
 void ZvLineScan::InitProperties()
 {
-    start_sizes();
+    Control::InitProperties();
     line_ = {};
     shows_sites_ = false;
-    frame_.legend_shown = true;
     view_.show_form(false);
     view_.btnoptions.Enabled(true);
     view_.btnoptions.Visible(true);
@@ -90,7 +65,7 @@ void ZvLineScan::InitProperties()
 void ZvLineScan::angle(std::int16_t angle)
 {
     write_angle(within_circle(angle));
-    frame_.report_change("Angle");
+    report_change("Angle");
 }
 
 void ZvLineScan::PlotType(PlotTypeEnumLineScan plot_type)
@@ -98,46 +73,75 @@ void ZvLineScan::PlotType(PlotTypeEnumLineScan plot_type)
     line_.plot_type = to_i16(static_cast<double>(plot_type));
     view_.PLOTA.Cls();
     view_.show_form(line_.is_line_form());
-    frame_.report_change("PlotType");
+    report_change("PlotType");
+}
+
+std::int16_t ZvLineScan::RotationPointX() const
+{
+    return nearest_i16(line_.rotation_point.x);
+}
+
+std::int16_t ZvLineScan::RotationPointY() const
+{
+    return nearest_i16(line_.rotation_point.y);
+}
+
+std::int16_t ZvLineScan::LineStartPointX() const
+{
+    return nearest_i16(line_.line_start.x);
+}
+
+std::int16_t ZvLineScan::LineStartPointY() const
+{
+    return nearest_i16(line_.line_start.y);
+}
+
+std::int16_t ZvLineScan::LineEndPointX() const
+{
+    return nearest_i16(line_.line_end.x);
+}
+
+std::int16_t ZvLineScan::LineEndPointY() const
+{
+    return nearest_i16(line_.line_end.y);
 }
 
 void ZvLineScan::set_coordinate(double& coordinate, std::int16_t value, std::string_view property)
 {
     view_.PLOTA.Cls();
     coordinate = value;
-    frame_.report_change(property);
+    report_change(property);
 }
 
 void ZvLineScan::ShowSites(Sites sites)
 {
     shows_sites_ = sites != Sites::HideSites;
     view_.hide_marks();
-    frame_.report_change("ShowSites");
+    report_change("ShowSites");
 }
 
-void ZvLineScan::BackColor(Color color)
+void ZvLineScan::repaint_background()
 {
-    view_.BackColor(color);
-    frame_.report_change("BackColor");
+    for (LineOverview* const overview : {&view_.by_angle, &view_.by_points})
+        if (overview->shows_figure)
+            trap(trap_place("BackColor", "figure"), [&] { draw_figure(*overview, nullptr); });
 }
 
 // Shown again in the form of two points, both overviews show; the one of the form covers the other.
-void ZvLineScan::HideLegend(BooleanWord is_hidden)
+void ZvLineScan::show_legend(bool is_shown)
 {
-    frame_.legend_shown = !is_hidden;
-    view_.FNLabel(0).Visible(!is_hidden);
-    view_.btnoptions.Visible(!is_hidden);
+    view_.FNLabel(0).Visible(is_shown);
+    view_.btnoptions.Visible(is_shown);
     if (!line_.is_angle_form())
-        view_.FNLabel(1).Visible(!is_hidden);
+        view_.FNLabel(1).Visible(is_shown);
     lay_out();
-    frame_.report_change("HideLegend");
 }
 
 void ZvLineScan::PlotCaption(std::string_view caption)
 {
     view_.Plot.caption(caption);
-    frame_.window.Refresh();
-    frame_.report_change("PlotCaption");
+    window_.Refresh();
+    report_change("PlotCaption");
 }
 
 std::int16_t ZvLineScan::GetLineOrAngle(std::int16_t angle, double& StartX, double& StartY, double& EndX, double& EndY)
@@ -169,19 +173,11 @@ void ZvLineScan::SetLineOrAngle(std::int16_t PlotType, std::int16_t angle, doubl
     }
 }
 
-void ZvLineScan::ReleasePlotLimit()
-{
-    frame_.limits_set = false;
-    frame_.record.setMaximalMinial(frame_.record.maxi, frame_.record.mini);
-    show_labels();
-    plot_again();
-}
-
 void ZvLineScan::clear_display()
 {
     view_.PLOTA.Cls();
     view_.hide_marks();
-    frame_.forget_plot();
+    forget_plot();
 }
 
 // --- Angle entry ---------------------------------------------------------------------------------------------------
@@ -221,25 +217,20 @@ void ZvLineScan::angle_key_pressed(std::int16_t key)
 
 // --- Drawing -------------------------------------------------------------------------------------------------------
 
-std::int16_t ZvLineScan::Plot()
-{
-    return plot_at_once();
-}
-
 void ZvLineScan::draw()
 {
-    HourglassScope const hourglass(frame_.window);
+    HourglassScope const hourglass(window_);
     lay_out();
     if (line_.is_angle_form())
         draw_angle_form();
-    else if (frame_.plot_requested)
+    else if (plot_requested_)
         draw_line_form();
 }
 
 void ZvLineScan::draw_angle_form()
 {
     TextBox& entry = view_.AngleValue;
-    frame_.record.GridPosShow(&view_.FNLabel(0), view_.by_angle.picture.surface(), 0, 90);
+    draw_figure(view_.by_angle, &view_.FNLabel(0));
     view_.FNLabel(0).caption("Angle :");
     if (parse_number(entry.Text()).value_or(0) == line_.angle_deg) {
         show_indicator(view_.by_angle);
@@ -255,28 +246,23 @@ void ZvLineScan::draw_line_form()
 {
     view_.PLOTA.Cls();
     show_labels();
-    frame_.record.GridPosShow(&view_.FNLabel(1), view_.by_points.picture.surface(), 0, 90);
+    draw_figure(view_.by_points, &view_.FNLabel(1));
     show_indicator(view_.by_points);
     draw_scan();
-}
-
-TrapPlace ZvLineScan::place_of(char const* step)
-{
-    return {&frame_.platform(), frame_.record, "layout", step};
 }
 
 // Each step for itself: a failed one leaves the others.
 void ZvLineScan::lay_out()
 {
-    trap(place_of("smallest size"), [this] { view_.take_smallest_size(frame_.legend_shown); });
-    trap(place_of("children"),
-         [this] { view_.lay_out(frame_.legend_shown, ScanValueText(frame_.record.maximal)(frame_.record.maximal)); });
-    trap(place_of("grid"), [this] {
+    trap(trap_place("layout", "smallest size"), [this] { view_.take_smallest_size(legend_shown_); });
+    trap(trap_place("layout", "children"),
+         [this] { view_.lay_out(legend_shown_, ScanValueText(record_.maximal)(record_.maximal)); });
+    trap(trap_place("layout", "grid"), [this] {
         PictureBox& picture = view_.PLOTA;
         double left = 0, top = 0, width = picture.Width(), height = picture.Height();
         picture.Cls();
         picture.surface().set_picture(nullptr);
-        frame_.record.D1Plot_AdjustLines(picture.surface(), left, top, width, height);
+        record_.D1Plot_AdjustLines(picture.surface(), left, top, width, height);
     });
     show_again();
 }
@@ -284,16 +270,16 @@ void ZvLineScan::lay_out()
 // Draws over what is there; failures leave it as it is.
 void ZvLineScan::show_again()
 {
-    if (!frame_.plot_requested)
+    if (!plot_requested_)
         return;
-    trap(place_of("curve"), [this] { draw_curve(); });
+    trap(trap_place("layout", "curve"), [this] { draw_curve(); });
     if (shows_sites_)
-        trap(place_of("marks"), [this] { mark_sites(); });
+        trap(trap_place("layout", "marks"), [this] { mark_sites(); });
 }
 
 void ZvLineScan::draw_scan()
 {
-    if (!frame_.plot_requested)
+    if (!plot_requested_)
         return;
     draw_curve();
     if (shows_sites_)
@@ -306,8 +292,8 @@ void ZvLineScan::draw_curve()
     std::int16_t steps = steps_along_line;
     Color color = curve_color;
     NoBox box;
-    frame_.record.D1Plot(view_.PLOTA.surface(), steps, line.phi, line.is_angle, line.x1, line.y1, line.x2, line.y2,
-                         color, box.left, box.top, box.width, box.height, box.show_disp);
+    record_.D1Plot(view_.PLOTA.surface(), steps, line.phi, line.is_angle, line.x1, line.y1, line.x2, line.y2, color,
+                   box.left, box.top, box.width, box.height, box.show_disp);
 }
 
 void ZvLineScan::mark_sites()
@@ -315,23 +301,29 @@ void ZvLineScan::mark_sites()
     ScanArguments line = line_.for_curve();
     Color color = curve_color;
     NoBox box;
-    frame_.record.D1Plot_MarkSites(view_.PLOTA.surface(), &view_.picgrid, line.phi, line.is_angle, line.x1, line.y1,
-                                   line.x2, line.y2, color, box.left, box.top, box.width, box.height, box.show_disp);
+    record_.D1Plot_MarkSites(view_.PLOTA.surface(), &view_.picgrid, line.phi, line.is_angle, line.x1, line.y1, line.x2,
+                             line.y2, color, box.left, box.top, box.width, box.height, box.show_disp);
 }
 
 void ZvLineScan::show_labels()
 {
     EitherFormArguments line = line_.for_labels();
-    frame_.record.D1Plot_Show_lblXY(view_.lblX, view_.lblY, line.plotopt, line.phi, line.x1, line.y1, line.x2, line.y2,
-                                    line.x3, line.y3);
+    record_.D1Plot_Show_lblXY(view_.lblX, view_.lblY, line.plotopt, line.phi, line.x1, line.y1, line.x2, line.y2,
+                              line.x3, line.y3);
     view_.part_labels();
+}
+
+void ZvLineScan::draw_figure(LineOverview& overview, Widget* label)
+{
+    record_.GridPosShow(label, overview.picture.surface(), 0, 90);
+    overview.shows_figure = true;
 }
 
 void ZvLineScan::show_indicator(LineOverview& overview)
 {
     EitherFormArguments line = line_.for_labels();
-    frame_.record.draw_indicator(overview.line, overview.mark, line.plotopt, line.phi, line.x1, line.y1, line.x2,
-                                 line.y2, line.x3, line.y3, overview.picture.surface());
+    record_.draw_indicator(overview.line, overview.mark, line.plotopt, line.phi, line.x1, line.y1, line.x2, line.y2,
+                           line.x3, line.y3, overview.picture.surface());
     overview.line.Refresh();
 }
 
@@ -339,10 +331,10 @@ void ZvLineScan::show_indicator(LineOverview& overview)
 
 void ZvLineScan::ShowPlotOption()
 {
-    frmPlotOpt1D dialog(frame_.platform());
-    dialog.SetValues(frame_.record, line_.plot_type, line_.angle_deg, line_.rotation_point.x, line_.rotation_point.y,
+    frmPlotOpt1D dialog(platform());
+    dialog.SetValues(record_, line_.plot_type, line_.angle_deg, line_.rotation_point.x, line_.rotation_point.y,
                      line_.line_start.x, line_.line_start.y, line_.line_end.x, line_.line_end.y, shows_sites_);
-    if (!frame_.confirms(dialog))
+    if (!confirms(dialog))
         return;
     ShowSites(dialog.GetMarkeSites() ? Sites::MarkSites : Sites::HideSites);
     take_line(dialog);
@@ -360,59 +352,80 @@ void ZvLineScan::take_line(frmPlotOpt1D& dialog)
     SetLineOrAngle(mode, angle, rotation.x, rotation.y, start.x, start.y, end.x, end.y);
 }
 
-void ZvLineScan::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+void ZvLineScan::print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame)
 {
     EitherFormArguments const line = line_.for_labels();
-    paper.Print_1DPlot(frame_.record, line.phi, line.plotopt, line.x1, line.y1, line.x2, line.y2, line.x3, line.y3,
+    paper.Print_1DPlot(record_, line.phi, line.plotopt, line.x1, line.y1, line.x2, line.y2, line.x3, line.y3,
                        shows_sites_, PlotCaption(), box.left, box.top, box.width, box.height, with_frame);
 }
 
-std::vector<StoredProperty> const& ZvLineScan::stored_properties() const
+namespace
 {
-    return stored_properties_of_line_scan();
+
+std::vector<Member> line_rows()
+{
+    using Z = ZvLineScan;
+    using I2 = std::int16_t;
+    constexpr int place = store_place::settings;
+    constexpr auto angle_form = "Point of the line by angle, in mm.";
+    constexpr auto first_point = "First of two points, in mm.";
+    constexpr auto second_point = "Second of two points, in mm.";
+    return {
+        property<Z, I2, &Z::angle, &Z::angle>("angle", "Direction of the line in degrees.")
+            .saved(place + 1, "RotAngle", integer(0)),
+        property<Z, PlotTypeEnumLineScan, &Z::PlotType, &Z::PlotType>(
+            "PlotType", "Form of the line: by angle or through two points.")
+            .of(plot_type_enumeration())
+            .saved(place + 2, "1DPlotType", integer(1)),
+        property<Z, I2, &Z::RotationPointX, &Z::RotationPointX>("RotationPointX", angle_form)
+            .saved(place + 3, "1DRotationX", integer(0)),
+        property<Z, I2, &Z::RotationPointY, &Z::RotationPointY>("RotationPointY", angle_form)
+            .saved(place + 4, "1DRotationY", integer(0)),
+        property<Z, I2, &Z::LineStartPointX, &Z::LineStartPointX>("LineStartPointX", first_point)
+            .saved(place + 5, "1DLineStartX", integer(0)),
+        property<Z, I2, &Z::LineStartPointY, &Z::LineStartPointY>("LineStartPointY", first_point)
+            .saved(place + 6, "1DLineStartY", integer(0)),
+        property<Z, I2, &Z::LineEndPointX, &Z::LineEndPointX>("LineEndPointX", second_point)
+            .saved(place + 7, "1DLineEndX", integer(0)),
+        property<Z, I2, &Z::LineEndPointY, &Z::LineEndPointY>("LineEndPointY", second_point)
+            .saved(place + 8, "1DLineEndY", integer(0))
+            .read_into("LineEndPointX"), // so the saved y comes back as the x
+        property<Z, Sites, &Z::ShowSites, &Z::ShowSites>("ShowSites", "Marks the sites on the line.")
+            .of(sites_enumeration())
+            .saved(place, "1DMark", long_integer(0)),
+    };
 }
+
+SharedKeys line_scan_keys()
+{
+    SharedKeys keys = SharedKeys::with_prefix("1D");
+    keys.back_color = "BackColor";
+    keys.default_caption = "";
+    return keys;
+}
+
+} // namespace
 
 Interface const& ZvLineScan::interface_table()
 {
     using Z = ZvLineScan;
-    using I2 = std::int16_t;
+    static SharedKeys const keys = line_scan_keys();
     auto const line_or_angle = by_references("angle", "StartX", "StartY", "EndX", "EndY");
     auto const whole_line = by_references("PlotType", "angle", "AngleX", "AngleY", "StartX", "StartY", "EndX", "EndY");
     static Interface const table{
         "ZvLineScan", "Values of one panel along a line.",
         join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            {property<Z, I2, &Z::angle, &Z::angle>("angle", "Direction of the line in degrees."),
-             property<Z, PlotTypeEnumLineScan, &Z::PlotType, &Z::PlotType>(
-                 "PlotType", "Form of the line: by angle or through two points.")
-                 .of(plot_type_enumeration()),
-             property<Z, I2, &Z::RotationPointX, &Z::RotationPointX>("RotationPointX",
-                                                                     "Point of the line by angle, in mm."),
-             property<Z, I2, &Z::RotationPointY, &Z::RotationPointY>("RotationPointY",
-                                                                     "Point of the line by angle, in mm."),
-             property<Z, I2, &Z::LineStartPointX, &Z::LineStartPointX>("LineStartPointX",
-                                                                       "First of two points, in mm."),
-             property<Z, I2, &Z::LineStartPointY, &Z::LineStartPointY>("LineStartPointY",
-                                                                       "First of two points, in mm."),
-             property<Z, I2, &Z::LineEndPointX, &Z::LineEndPointX>("LineEndPointX", "Second of two points, in mm."),
-             property<Z, I2, &Z::LineEndPointY, &Z::LineEndPointY>("LineEndPointY", "Second of two points, in mm."),
-             property<Z, Sites, &Z::ShowSites, &Z::ShowSites>("ShowSites", "Marks the sites on the line.")
-                 .of(sites_enumeration()),
-             method<&Z::Plot>("Plot", "Shows the plot: 0 done, 1 no data."),
-             color_row<Z, Z, &Z::BackColor, &Z::BackColor>("BackColor", "Colour around the plot."),
-             show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>(),
-             property<Z, BooleanWord, &Z::HideLegend, &Z::HideLegend>("HideLegend", "Hides the overview.")
-                 .of_kind(MemberKind::PutGet),
-             text_property<Z, &Z::PlotCaption, &Z::PlotCaption>("PlotCaption", "Caption of the plot.")
-                 .of_kind(MemberKind::PutGet),
-             print_plot_row<Z>()},
-            print_data_rows<Z>(),
-            read_out_rows<Z>(),
-            {method<&Z::SetPlotNotVaild>("SetPlotNotVaild", "Clears the curve."), set_data_file_row<Z>(),
+            platform_rows(keys),
+            statistics_rows(),
+            size_rows(keys),
+            line_rows(),
+            {plot_row(), back_color_row(keys), show_plot_option_row()},
+            limit_rows(),
+            {set_panel_data_row(), hide_legend_row(keys, "Hides the overview."),
+             caption_row<Z, &Z::PlotCaption, &Z::PlotCaption>(keys), print_plot_row()},
+            print_data_rows(),
+            read_out_rows(),
+            {set_plot_not_valid_row("Clears the curve."), set_data_file_row(),
              method<&Z::GetLineOrAngle>("GetLineOrAngle", "Reads the line.", line_or_angle),
              method<&Z::SetLineOrAngle>("SetLineOrAngle", "Sets the form and its line.", whole_line)},
         }),

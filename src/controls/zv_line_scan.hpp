@@ -1,11 +1,8 @@
 #pragma once
 
+#include "zendara/controls/control.hpp"
 #include "zendara/controls/line_scan_settings.hpp"
 #include "zendara/controls/line_scan_view.hpp"
-#include "zendara/controls/print_members.hpp"
-#include "zendara/controls/raster_members.hpp"
-#include "zendara/controls/shared_members.hpp"
-#include "zendara/support/trap.hpp"
 
 namespace zendara
 {
@@ -15,16 +12,14 @@ class frmPlotOpt1D;
 /// The values of one panel along a straight line, with an angle box that turns the line.
 ///
 /// The line runs from edge to edge of the tested area: through a rotation point at an angle, or through two points.
-/// Members beyond those told here are in SharedMembers and PrintMembers.
-class ZvLineScan final : public SharedMembers<ZvLineScan>, public PrintMembers<ZvLineScan>
+/// HideLegend hides the overview and the options button; the curve then takes the whole control.
+class ZvLineScan final : public Control
 {
 public:
     explicit ZvLineScan(Platform& platform);
 
     void InitProperties() override;
-    std::vector<StoredProperty> const& stored_properties() const override;
-    Interface const& host_interface() const override { return interface_table(); }
-    static Interface const& interface_table();
+    void ShowPlotOption() override;
 
     /// Direction of the line in degrees, 0 to 359: 0 runs upward, 90 from the right to the left. Other angles are
     /// brought into the circle. Turns the line at once, as a user's entry into the angle box does.
@@ -35,13 +30,14 @@ public:
     PlotTypeEnumLineScan PlotType() const { return static_cast<PlotTypeEnumLineScan>(line_.plot_type); }
     void PlotType(PlotTypeEnumLineScan plot_type);
 
-    /// Points of the line in millimetres from the panel's centre. Setting one clears the curve; the next Plot draws.
-    std::int16_t RotationPointX() const { return to_i16(line_.rotation_point.x); }
-    std::int16_t RotationPointY() const { return to_i16(line_.rotation_point.y); }
-    std::int16_t LineStartPointX() const { return to_i16(line_.line_start.x); }
-    std::int16_t LineStartPointY() const { return to_i16(line_.line_start.y); }
-    std::int16_t LineEndPointX() const { return to_i16(line_.line_end.x); }
-    std::int16_t LineEndPointY() const { return to_i16(line_.line_end.y); }
+    /// Points of the line in millimetres from the panel's centre, read as the nearest 16-bit numbers. Setting one
+    /// clears the curve; the next Plot draws.
+    std::int16_t RotationPointX() const;
+    std::int16_t RotationPointY() const;
+    std::int16_t LineStartPointX() const;
+    std::int16_t LineStartPointY() const;
+    std::int16_t LineEndPointX() const;
+    std::int16_t LineEndPointY() const;
     void RotationPointX(std::int16_t x) { set_coordinate(line_.rotation_point.x, x, "RotationPointX"); }
     void RotationPointY(std::int16_t y) { set_coordinate(line_.rotation_point.y, y, "RotationPointY"); }
     void LineStartPointX(std::int16_t x) { set_coordinate(line_.line_start.x, x, "LineStartPointX"); }
@@ -53,32 +49,12 @@ public:
     Sites ShowSites() const { return shows_sites_ ? Sites::MarkSites : Sites::HideSites; }
     void ShowSites(Sites sites);
 
-    /// Lays the control out and draws the curve.
-    /// @return  0 done, 1 there are no data
-    std::int16_t Plot();
-
-    /// Colour around the curve; the curve keeps its own.
-    Color BackColor() const { return frame_.window.BackColor(); }
-    void BackColor(Color color);
-
-    /// Opens the option dialog; its OK draws anew.
-    void ShowPlotOption();
-
-    /// Goes back to the limits of the data.
-    void ReleasePlotLimit();
-
-    /// Hides the overview and the options button; the curve then takes the whole control.
-    BooleanWord HideLegend() const { return !frame_.legend_shown; }
-    void HideLegend(BooleanWord is_hidden);
-
     /// Text in the upper edge of the curve's frame.
     std::string const& PlotCaption() const { return view_.Plot.caption(); }
     void PlotCaption(std::string_view caption);
 
-    void PrintLegend(double, double, BooleanWord&) = delete; // a line scan has none
-
     /// Clears the curve.
-    void SetPlotNotVaild() { view_.PLOTA.Cls(); }
+    void SetPlotNotVaild() override { view_.PLOTA.Cls(); }
 
     /// Reads the line. In the form of two points all four coordinates are filled. In the angle form StartX and StartY
     /// get the rotation point, EndX gets the number that came in as `angle`, and EndY stays: hosts learn the angle from
@@ -90,18 +66,26 @@ public:
     void SetLineOrAngle(std::int16_t PlotType, std::int16_t angle, double AngleX, double AngleY, double StartX,
                         double StartY, double EndX, double EndY);
 
+    Interface const& host_interface() const override { return interface_table(); }
+    static Interface const& interface_table();
+
 private:
-    template <class> friend class SharedMembers;
-    template <class> friend class PrintMembers;
+    void set_background(Color color) override { view_.BackColor(color); }
+    void repaint_background() override;
+    void show_legend(bool is_shown) override;
+    void prepare_plot() override { fill_empty_sizes(); }
+    void show_plot() override { draw(); }
+    void clear_display() override;
+    void limits_released() override { show_labels(); }
+    void print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame) override;
 
-    static constexpr AboutKind about_kind = AboutKind::LineScan;
-
-    void clear_display();
-    void drop_stored_picture() {} // none is kept
     void set_coordinate(double& coordinate, std::int16_t value, std::string_view property);
     void write_angle(std::int16_t angle);
+    void take_line(frmPlotOpt1D& dialog);
 
-    TrapPlace place_of(char const* step);
+    void angle_text_changed();
+    void angle_key_pressed(std::int16_t key);
+
     void lay_out();
     void show_again();
     void draw();
@@ -111,15 +95,9 @@ private:
     void draw_curve();
     void mark_sites();
     void show_labels();
+    void draw_figure(LineOverview& overview, Widget* label);
     void show_indicator(LineOverview& overview);
-    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
 
-    void take_line(frmPlotOpt1D& dialog);
-
-    void angle_text_changed();
-    void angle_key_pressed(std::int16_t key);
-
-    ControlFrame frame_;
     LineScanView view_;
     LineScanSettings line_;
     BooleanWord shows_sites_;

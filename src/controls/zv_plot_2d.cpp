@@ -1,84 +1,72 @@
 #include "zendara/controls/zv_plot_2d.hpp"
 
-#include "zendara/controls/plot_interface.hpp"
-#include "zendara/controls/resolution_limit.hpp"
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/plot_control_rows.hpp"
+#include "zendara/dialogs/frm_about.hpp"
 #include "zendara/dialogs/frm_plot_opt_2d.hpp"
+#include "zendara/print/print_panel.hpp"
 
 namespace zendara
 {
 
 ZvPlot2D::ZvPlot2D(Platform& platform)
-    : frame_(*this, platform, "ZvPlot2D"),
-      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_map(); }); }})
+    : PlotControl(platform, "ZvPlot2D", AboutKind::Map), RasterSettings(self()), TenIntervalColors(self())
 {
-    plot_frame_.forward_events();
-    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+    answer_user();
 }
 
 void ZvPlot2D::InitProperties()
 {
-    start_frame();
-    raster_ = {};
+    PlotControl::InitProperties();
+    start_raster();
 }
 
 void ZvPlot2D::prepare_plot()
 {
-    default_sizes_crossed();
-    raster_.fill_in_defaults();
+    PlotControl::prepare_plot();
+    fill_in_resolution();
 }
 
-void ZvPlot2D::fill_legend()
-{
-    frame_.record.scale_colored(plot_frame_.column.scalCol, plot_frame_.column.ScaleValue);
-}
-
-void ZvPlot2D::draw_map()
+void ZvPlot2D::draw_plot()
 {
     constexpr std::int16_t ten_intervals = 5;
-    if (limit_resolution(frame_.record, raster_.resolution_x, raster_.resolution_y, frame_.platform()))
-        ShowPlotOption();
-    plot_frame_.show_position(0, 90);
-    frame_.record.D2Plot(plot_frame_.view.PLOTA.surface(), raster_.resolution_x, raster_.resolution_y, ten_intervals, 0,
-                         raster_.shows_sites.word, 0, 0, 0, 0, 0);
+    record_.D2Plot(plot_surface(), resolution_x_, resolution_y_, ten_intervals, 0, shows_sites_.word, 0, 0, 0, 0, 0);
 }
 
 void ZvPlot2D::ShowPlotOption()
 {
-    frmPlotOpt2d dialog(frame_.platform());
-    dialog.SetValues(frame_.record, raster_.resolution_x, raster_.resolution_y, raster_.shows_sites, plot_color());
+    frmPlotOpt2d dialog(platform());
+    dialog.SetValues(record_, resolution_x_, resolution_y_, shows_sites_, plot_color());
     answer_options(dialog, [&] {
-        take_raster(dialog);
+        take_raster(dialog.GetXRes(), dialog.GetYRes(), dialog.GetMarkeSites());
         take_color(dialog.GetBackColor());
     });
 }
 
-void ZvPlot2D::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+void ZvPlot2D::print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame)
 {
-    paper.Print_2DPlot(frame_.record, box.left, box.top, box.width, box.height, raster_.resolution_x,
-                       raster_.resolution_y, PlotCaption(), raster_.shows_sites.word, with_frame);
+    paper.Print_2DPlot(record_, box.left, box.top, box.width, box.height, resolution_x_, resolution_y_, PlotCaption(),
+                       shows_sites_.word, with_frame);
 }
 
 std::int16_t ZvPlot2D::PrintGridPlot(double left, double top, double width, double height)
 {
     return print_checked(
-        [&](PrintPanel& paper) { paper.Print_GridPosPlot(frame_.record, left, top, width, height, PlotCaption()); });
-}
-
-std::vector<StoredProperty> const& ZvPlot2D::stored_properties() const
-{
-    return stored_properties_of_2d();
+        [&](PrintPanel& paper) { paper.Print_GridPosPlot(record_, left, top, width, height, PlotCaption()); });
 }
 
 Interface const& ZvPlot2D::interface_table()
 {
-    using Z = ZvPlot2D;
-    auto const box = by_references("left", "top", "width", "height");
-    static Interface const table =
-        plot_interface<Z>("ZvPlot2D", "Colour map of one panel.",
-                          {raster_rows<Z>(),
-                           interval_color_rows<Z>(),
-                           {method<&Z::PrintGridPlot>("PrintGridPlot", "Prints the site numbers.", box)}});
+    static Interface const table = [] {
+        SharedKeys keys = SharedKeys::with_prefix("2D");
+        // Read from keys that nothing writes: a saved control comes back with the default sizes.
+        keys.width_on_read = "PANELWD";
+        keys.height_on_read = "PANELHD";
+        auto const box = by_references("left", "top", "width", "height");
+        return plot_interface("ZvPlot2D", "Colour map of one panel.", keys,
+                              {raster_rows("2D"),
+                               interval_color_rows("2D", "2D"),
+                               {method<&ZvPlot2D::PrintGridPlot>("PrintGridPlot", "Prints the site numbers.", box)}});
+    }();
     return table;
 }
 

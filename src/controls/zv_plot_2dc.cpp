@@ -1,8 +1,9 @@
 #include "zendara/controls/zv_plot_2dc.hpp"
 
-#include "zendara/controls/plot_interface.hpp"
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/plot_control_rows.hpp"
+#include "zendara/dialogs/frm_about.hpp"
 #include "zendara/dialogs/frm_plot_opt_2dc.hpp"
+#include "zendara/print/print_panel.hpp"
 #include "zendara/support/checked.hpp"
 #include "zendara/support/number_text.hpp"
 
@@ -49,17 +50,14 @@ Enumeration const& colors_enumeration()
 } // namespace
 
 ZvPlot2DC::ZvPlot2DC(Platform& platform)
-    : frame_(*this, platform, "ZvPlot2DC"),
-      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_lines(); }); }}),
-      legend_(plot_frame_.column)
+    : PlotControl(platform, "ZvPlot2DC", AboutKind::Contours), TenIntervalColors(self()), legend_(column_)
 {
-    plot_frame_.forward_events();
-    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
+    answer_user();
 }
 
 void ZvPlot2DC::InitProperties()
 {
-    start_frame();
+    PlotControl::InitProperties();
     settings_ = {};
     fill_legend();
 }
@@ -67,56 +65,55 @@ void ZvPlot2DC::InitProperties()
 void ZvPlot2DC::Interval(double interval)
 {
     settings_.interval = interval < 0 ? 1 : interval;
-    frame_.settings_changed("Interval");
+    settings_changed("Interval");
 }
 
 void ZvPlot2DC::IntervalInPercent(BooleanWord is_in_percent)
 {
     settings_.is_in_percent = is_in_percent;
-    frame_.settings_changed("IntervalInPercent");
+    settings_changed("IntervalInPercent");
 }
 
 void ZvPlot2DC::MeasurementUnit(std::string_view unit)
 {
     settings_.unit = unit;
-    frame_.settings_changed("MeasurementUnit");
+    settings_changed("MeasurementUnit");
 }
 
 void ZvPlot2DC::marksites(ContourMarks marks)
 {
     settings_.marks = marks;
-    frame_.settings_changed("MarkSites");
+    settings_changed("MarkSites");
 }
 
 void ZvPlot2DC::Resolution(ContourResolution resolution)
 {
     settings_.resolution = resolution;
-    frame_.settings_changed("Resolution");
+    settings_changed("Resolution");
 }
 
 void ZvPlot2DC::PlotColored(ContourColors colors)
 {
     settings_.colors = colors;
     fill_legend();
-    frame_.settings_changed("PlotColored");
+    settings_changed("PlotColored");
 }
 
 void ZvPlot2DC::fill_legend()
 {
-    legend_.fill(frame_.record, settings_.colors, distance_text());
+    legend_.fill(record_, settings_.colors, distance_text());
 }
 
-void ZvPlot2DC::draw_lines()
+void ZvPlot2DC::draw_plot()
 {
-    plot_frame_.show_position(0, 90);
-    frame_.record.D2Contour(plot_frame_.view.PLOTA.surface(), distance_in_percent(), to_i16(number(settings_.marks)),
-                            to_i16(number(settings_.resolution)), to_i16(number(settings_.colors)), 0, 0, 0, 0, 0);
+    record_.D2Contour(plot_surface(), distance_in_percent(), to_i16(number(settings_.marks)),
+                      to_i16(number(settings_.resolution)), to_i16(number(settings_.colors)), 0, 0, 0, 0, 0);
     fill_legend();
 }
 
 double ZvPlot2DC::distance_in_percent() const
 {
-    return settings_.is_in_percent ? settings_.interval : contour_percent(frame_.record, settings_.interval);
+    return settings_.is_in_percent ? settings_.interval : contour_percent(record_, settings_.interval);
 }
 
 std::string ZvPlot2DC::distance_text() const
@@ -125,16 +122,11 @@ std::string ZvPlot2DC::distance_text() const
     return plain_text(settings_.interval) + (unit.empty() ? "" : " " + unit);
 }
 
-Color ZvPlot2DC::curve_color(double panel::*curve) const
-{
-    return to_i32(frame_.record.*curve);
-}
-
 // The dialog speaks of measurement units where the control speaks of percent.
 void ZvPlot2DC::ShowPlotOption()
 {
-    frmPlotOpt2DC dialog(frame_.platform());
-    dialog.SetValues(frame_.record, to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
+    frmPlotOpt2DC dialog(platform());
+    dialog.SetValues(record_, to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
                      to_i16(number(settings_.colors)), settings_.interval, plot_color(), !settings_.is_in_percent);
     answer_options(dialog, [&] {
         BooleanWord is_in_units;
@@ -148,26 +140,20 @@ void ZvPlot2DC::ShowPlotOption()
 }
 
 // The page wants to know whether the interval is in the measuring unit, the reverse of the property.
-void ZvPlot2DC::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+void ZvPlot2DC::print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame)
 {
-    paper.Print_Contour(frame_.record, box.left, box.top, box.width, box.height, settings_.interval,
-                        !settings_.is_in_percent, settings_.unit, to_i16(number(settings_.marks)),
-                        to_i16(number(settings_.resolution)), to_i16(number(settings_.colors)), PlotCaption(),
-                        with_frame);
+    paper.Print_Contour(record_, box.left, box.top, box.width, box.height, settings_.interval, !settings_.is_in_percent,
+                        settings_.unit, to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
+                        to_i16(number(settings_.colors)), PlotCaption(), with_frame);
 }
 
 std::int16_t ZvPlot2DC::PrintPlot_THN(double left, double top, double width, double height, std::string& winfo)
 {
     return print_checked([&](PrintPanel& paper) {
-        paper.Print_Contour_THN(frame_.record, left, top, width, height, settings_.interval, !settings_.is_in_percent,
+        paper.Print_Contour_THN(record_, left, top, width, height, settings_.interval, !settings_.is_in_percent,
                                 to_i16(number(settings_.marks)), to_i16(number(settings_.resolution)),
                                 to_i16(number(settings_.colors)), PlotCaption(), winfo, true);
     });
-}
-
-std::vector<StoredProperty> const& ZvPlot2DC::stored_properties() const
-{
-    return stored_properties_of_2dc();
 }
 
 namespace
@@ -176,22 +162,35 @@ namespace
 std::vector<Member> contour_rows()
 {
     using Z = ZvPlot2DC;
+    constexpr int place = store_place::settings;
     return {
-        property<Z, double, &Z::Interval, &Z::Interval>(
-            "Interval", "The distance of the lines given in percent of the mean value."),
+        property<Z, double, &Z::Interval, &Z::Interval>("Interval",
+                                                        "The distance of the lines given in percent of the mean value.")
+            .saved(place + 5, "StdDist", integer(1)),
         property<Z, BooleanWord, &Z::IntervalInPercent, &Z::IntervalInPercent>("IntervalInPercent",
-                                                                               "Interval is a percentage."),
-        text_property<Z, &Z::MeasurementUnit, &Z::MeasurementUnit>("MeasurementUnit", "Unit shown with Interval."),
+                                                                               "Interval is a percentage.")
+            .saved(place + 6, "StdDistPerecent", integer(0)),
+        text_property<Z, &Z::MeasurementUnit, &Z::MeasurementUnit>("MeasurementUnit", "Unit shown with Interval.")
+            .saved(place + 8, "2DCMeasurementUnit", std::string()),
         property<Z, ContourMarks, &Z::marksites, &Z::marksites>("marksites",
                                                                 "Mark the exact or the converted sites on plot.")
-            .of(marks_enumeration()),
+            .of(marks_enumeration())
+            .saved(place + 4, "StdExCon", integer(1))
+            .saved_as("MarkSites"),
         property<Z, ContourResolution, &Z::Resolution, &Z::Resolution>("Resolution", "Fineness of the raster.")
-            .of(resolution_enumeration()),
+            .of(resolution_enumeration())
+            .saved(place + 3, "StdReso", integer(0)),
         property<Z, ContourColors, &Z::PlotColored, &Z::PlotColored>("PlotColored", "Draw colored or black/white plot.")
-            .of(colors_enumeration()),
-        color_row<Z, Z, &Z::MeanCurveColor, &Z::MeanCurveColor>("MeanCurveColor", "Colour of the mean line."),
-        color_row<Z, Z, &Z::UpperCurveColor, &Z::UpperCurveColor>("UpperCurveColor", "Colour of lines above the mean."),
-        color_row<Z, Z, &Z::LowerCurveColor, &Z::LowerCurveColor>("LowerCurveColor", "Colour of lines below the mean."),
+            .of(colors_enumeration())
+            .saved(place + 7, "StdColor", integer(1)),
+        color_property<Z, &Z::MeanCurveColor, &Z::MeanCurveColor>("MeanCurveColor", "Colour of the mean line.")
+            .saved(place, "2DCMeanCurveCol", long_integer(QBColor(2))),
+        color_property<Z, &Z::UpperCurveColor, &Z::UpperCurveColor>("UpperCurveColor",
+                                                                    "Colour of lines above the mean.")
+            .saved(place + 1, "2DCUpperCurveCol", long_integer(QBColor(4))),
+        color_property<Z, &Z::LowerCurveColor, &Z::LowerCurveColor>("LowerCurveColor",
+                                                                    "Colour of lines below the mean.")
+            .saved(place + 2, "2DCLowerCurveCol", long_integer(QBColor(1))),
     };
 }
 
@@ -199,13 +198,12 @@ std::vector<Member> contour_rows()
 
 Interface const& ZvPlot2DC::interface_table()
 {
-    using Z = ZvPlot2DC;
     static Interface const table =
-        plot_interface<Z>("ZvPlot2DC", "Contour plot of one panel.",
-                          {contour_rows(),
-                           interval_color_rows<Z>(),
-                           {method<&Z::PrintPlot_THN>("PrintPlot_THN", "Prints the plot in its compact form.",
-                                                      print_box() + by_reference("winfo"))}});
+        plot_interface("ZvPlot2DC", "Contour plot of one panel.", SharedKeys::with_prefix("2DC"),
+                       {contour_rows(),
+                        interval_color_rows("2DC", "2DC"),
+                        {method<&ZvPlot2DC::PrintPlot_THN>("PrintPlot_THN", "Prints the plot in its compact form.",
+                                                           print_box() + by_reference("winfo"))}});
     return table;
 }
 

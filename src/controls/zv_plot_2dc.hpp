@@ -1,9 +1,8 @@
 #pragma once
 
 #include "zendara/controls/contour_legend.hpp"
-#include "zendara/controls/interval_color_members.hpp"
-#include "zendara/controls/plot_frame_members.hpp"
-#include "zendara/controls/print_members.hpp"
+#include "zendara/controls/plot_control.hpp"
+#include "zendara/controls/ten_interval_colors.hpp"
 
 #include <string>
 
@@ -12,19 +11,14 @@ namespace zendara
 
 /// The contour plot of one panel: lines of equal value, with legend, panel figure and options button.
 ///
-/// Most members are those that the controls share; see SharedMembers, PlotFrameMembers, IntervalColorMembers and
-/// PrintMembers. Settings take effect with the next Plot.
-class ZvPlot2DC final : public PlotFrameMembers<ZvPlot2DC>,
-                        public IntervalColorMembers<ZvPlot2DC>,
-                        public PrintMembers<ZvPlot2DC>
+/// Used as ZvPlot2D is. Settings take effect with the next Plot.
+class ZvPlot2DC final : public PlotControl, public TenIntervalColors
 {
 public:
     explicit ZvPlot2DC(Platform& platform);
 
     void InitProperties() override;
-    std::vector<StoredProperty> const& stored_properties() const override;
-    Interface const& host_interface() const override { return interface_table(); }
-    static Interface const& interface_table();
+    void ShowPlotOption() override;
 
     /// Distance of the lines, in percent or in the measuring unit; a negative one becomes 1.
     double Interval() const { return settings_.interval; }
@@ -34,7 +28,7 @@ public:
     BooleanWord IntervalInPercent() const { return settings_.is_in_percent; }
     void IntervalInPercent(BooleanWord is_in_percent);
 
-    /// The unit that the legend shows behind Interval.
+    /// The unit that the legend shows behind Interval, cut where the legend ends.
     std::string const& MeasurementUnit() const { return settings_.unit; }
     void MeasurementUnit(std::string_view unit);
 
@@ -51,28 +45,21 @@ public:
     void PlotColored(ContourColors colors);
 
     /// Colours of the three kinds of lines.
-    Color MeanCurveColor() const { return curve_color(&panel::ColS2); }
-    Color UpperCurveColor() const { return curve_color(&panel::ColS1); }
-    Color LowerCurveColor() const { return curve_color(&panel::ColS3); }
-    void MeanCurveColor(Color color) { set_panel_color(frame_, &panel::ColS2, color, "MeanCurveColor"); }
-    void UpperCurveColor(Color color) { set_panel_color(frame_, &panel::ColS1, color, "UpperCurveColor"); }
-    void LowerCurveColor(Color color) { set_panel_color(frame_, &panel::ColS3, color, "LowerCurveColor"); }
-
-    /// Opens the option dialog; its OK draws anew.
-    void ShowPlotOption();
+    Color MeanCurveColor() const { return panel_color(&panel::ColS2); }
+    Color UpperCurveColor() const { return panel_color(&panel::ColS1); }
+    Color LowerCurveColor() const { return panel_color(&panel::ColS3); }
+    void MeanCurveColor(Color color) { set_panel_color(&panel::ColS2, color, "MeanCurveColor"); }
+    void UpperCurveColor(Color color) { set_panel_color(&panel::ColS1, color, "UpperCurveColor"); }
+    void LowerCurveColor(Color color) { set_panel_color(&panel::ColS3, color, "LowerCurveColor"); }
 
     /// Prints the plot in its compact form. Result as that of PrintPlot.
     /// @param winfo  a line below the plot; comes back cut to what was printed
     std::int16_t PrintPlot_THN(double left, double top, double width, double height, std::string& winfo);
 
+    Interface const& host_interface() const override { return interface_table(); }
+    static Interface const& interface_table();
+
 private:
-    template <class> friend class SharedMembers;
-    template <class> friend class PlotFrameMembers;
-    template <class> friend class IntervalColorMembers;
-    template <class> friend class PrintMembers;
-
-    static constexpr AboutKind about_kind = AboutKind::Contours;
-
     struct Settings {
         double interval = 1;
         BooleanWord is_in_percent;
@@ -82,17 +69,13 @@ private:
         ContourColors colors = ContourColors::Three_ColorPlot;
     };
 
-    void prepare_plot() { default_sizes_crossed(); }
-    void fill_legend();
-    void draw_lines();
-    void print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame);
+    void fill_legend() override;
+    void draw_plot() override;
+    void print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame) override;
     double distance_in_percent() const;
     std::string distance_text() const;
-    Color curve_color(double panel::*curve) const;
 
-    ControlFrame frame_;
     Settings settings_;
-    PlotFrame plot_frame_;
     ContourLegend legend_;
 };
 

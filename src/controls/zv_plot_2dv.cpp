@@ -1,83 +1,65 @@
 #include "zendara/controls/zv_plot_2dv.hpp"
 
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/plot_control_rows.hpp"
+#include "zendara/dialogs/frm_about.hpp"
+#include "zendara/print/print_panel.hpp"
 
 namespace zendara
 {
 
+// The plot itself raises nothing here, the control no click, and nothing answers the button.
 ZvPlot2DV::ZvPlot2DV(Platform& platform)
-    : frame_(*this, platform, "ZvPlot2DV"),
-      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_numbers(); }); }})
+    : PlotControl(platform, "ZvPlot2DV", AboutKind::Numbers), TenIntervalColors(self())
 {
-    auto& column = plot_frame_.column;
-    auto& view = plot_frame_.view;
-    // The plot itself raises nothing here, and the control no click.
-    frame_.forward({&column.frmove, &view.Frplot}, click_events);
-    frame_.forward({&frame_.window}, std::array<std::string_view, 1>{"DblClick"});
-    frame_.forward({&frame_.window, &column.frmove, &view.Frplot}, mouse_events);
+    forward({"Click", "DblClick"}, {&column_.frmove, &view_.Frplot});
+    forward({"DblClick"}, {&window_});
+    forward({"MouseDown", "MouseMove", "MouseUp"}, {&window_, &column_.frmove, &view_.Frplot});
 }
 
-void ZvPlot2DV::InitProperties()
+void ZvPlot2DV::set_background(Color color)
 {
-    start_frame();
+    PlotControl::set_background(color);
+    image_valid_ = false;
 }
 
-void ZvPlot2DV::BackColor(Color color)
+void ZvPlot2DV::draw_plot()
 {
-    frame_.image_valid = false;
-    PlotFrameMembers::BackColor(color);
+    record_.D2Number(plot_surface(), 0, 0, 0, 0, 0);
+    plot_surface().Refresh();
 }
 
-void ZvPlot2DV::fill_legend()
+void ZvPlot2DV::print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame)
 {
-    frame_.record.scale_colored(plot_frame_.column.scalCol, plot_frame_.column.ScaleValue);
-}
-
-void ZvPlot2DV::draw_numbers()
-{
-    plot_frame_.show_position(0, 90);
-    auto& picture = plot_frame_.view.PLOTA;
-    frame_.record.D2Number(picture.surface(), 0, 0, 0, 0, 0);
-    picture.surface().Refresh();
-}
-
-void ZvPlot2DV::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
-{
-    paper.Print_2DVPlot(frame_.record, box.left, box.top, box.width, box.height, PlotCaption(), with_frame);
+    paper.Print_2DVPlot(record_, box.left, box.top, box.width, box.height, PlotCaption(), with_frame);
 }
 
 std::int16_t ZvPlot2DV::PrintGridNumber(double left, double top, double width, double height, BooleanWord& DrawFrame)
 {
     return print_checked([&](PrintPanel& paper) {
-        paper.Print_2DVGridPlot(frame_.record, left, top, width, height, PlotCaption(), DrawFrame);
+        paper.Print_2DVGridPlot(record_, left, top, width, height, PlotCaption(), DrawFrame);
     });
 }
 
-std::vector<StoredProperty> const& ZvPlot2DV::stored_properties() const
-{
-    return stored_properties_of_2dv();
-}
-
+// Unlike on the maps, the two load members stand together.
 Interface const& ZvPlot2DV::interface_table()
 {
-    using Z = ZvPlot2DV;
+    static SharedKeys const keys = SharedKeys::with_prefix("2DV");
     static Interface const table{
         "ZvPlot2DV", "Measured values of one panel as numbers.",
         join({
-            platform_rows<Z>(),
-            statistics_rows<Z>(),
-            size_rows<Z>(),
-            {plot_row<Z>(), color_row<Z, Z, &Z::BackColor, &Z::BackColor>("BackColor", "Colour around the plot."),
-             show_plot_option_row<Z>()},
-            limit_rows<Z>(),
-            {set_panel_data_row<Z>(), set_data_file_row<Z>()},
-            legend_and_caption_rows<Z>(),
-            {print_plot_row<Z>()},
-            print_block_rows<Z>(),
-            read_out_rows<Z>(),
-            interval_color_rows<Z>(),
-            {set_plot_not_valid_row<Z>(),
-             method<&Z::PrintGridNumber>("PrintGridNumber", "Prints the site numbers.", print_box() + draw_frame())},
+            platform_rows(keys),
+            statistics_rows(),
+            size_rows(keys),
+            {plot_row(), back_color_row(keys), show_plot_option_row()},
+            limit_rows(),
+            {set_panel_data_row(), set_data_file_row()},
+            legend_and_caption_rows(keys),
+            {print_plot_row(), print_legend_row()},
+            print_data_rows(),
+            read_out_rows(),
+            interval_color_rows("2DV", "2DV"),
+            {set_plot_not_valid_row(), method<&ZvPlot2DV::PrintGridNumber>(
+                                           "PrintGridNumber", "Prints the site numbers.", print_box() + draw_frame())},
         }),
         control_events()};
     return table;

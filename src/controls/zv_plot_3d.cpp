@@ -1,10 +1,15 @@
 #include "zendara/controls/zv_plot_3d.hpp"
 
-#include "zendara/controls/plot_interface.hpp"
-#include "zendara/controls/stored_properties.hpp"
+#include "zendara/controls/plot_control_rows.hpp"
+#include "zendara/dialogs/frm_about.hpp"
 #include "zendara/dialogs/frm_plot_opt_3d.hpp"
+#include "zendara/print/print_panel.hpp"
+#include "zendara/support/checked.hpp"
 
 namespace zendara
+{
+
+namespace
 {
 
 Enumeration const& plot_type_enumeration()
@@ -13,85 +18,85 @@ Enumeration const& plot_type_enumeration()
     return values;
 }
 
+} // namespace
+
 ZvPlot3D::ZvPlot3D(Platform& platform)
-    : frame_(*this, platform, "ZvPlot3D"),
-      plot_frame_(frame_, {[this] { fill_legend(); }, [this] { plot_frame_.draw([this] { draw_surface(); }); }}),
-      rotation_(frame_, plot_frame_, view_.angles, [this] { draw_preview(); })
+    : PlotControl(platform, "ZvPlot3D", AboutKind::Surface), SurfaceSettings(self()), TenIntervalColors(self()),
+      rotation_(*this, surface_view_.angles)
 {
-    plot_frame_.forward_events();
+    answer_user();
     rotation_.answer_mouse();
-    plot_frame_.column.Command1.on("Click", [this](std::span<Value>) { ShowPlotOption(); });
 }
 
 void ZvPlot3D::InitProperties()
 {
-    start_frame();
-    view_ = {};
+    PlotControl::InitProperties();
+    surface_view_ = {};
     plot_type_ = PlotTypeEnum::PolyEdge;
 }
 
 void ZvPlot3D::PlotType(PlotTypeEnum type)
 {
     plot_type_ = type;
-    frame_.settings_changed("PlotType");
+    settings_changed("PlotType");
 }
 
-void ZvPlot3D::fill_legend()
+void ZvPlot3D::draw_plot()
 {
-    frame_.record.scale_colored(plot_frame_.column.scalCol, plot_frame_.column.ScaleValue);
+    draw_surface(surface_view_.resolution_x, surface_view_.resolution_y);
 }
 
-void ZvPlot3D::draw_surface()
-{
-    if (limit_resolution(frame_.record, view_.resolution_x, view_.resolution_y, frame_.platform()))
-        ShowPlotOption();
-    plot_frame_.show_position(view_.angles.rotation, view_.angles.inclination);
-    view_.draw(frame_.record, plot_frame_.view.PLOTA.surface(), look());
-}
-
+// Ten cells each way whatever the resolution is, so that a drag stays fluent.
 void ZvPlot3D::draw_preview()
 {
-    plot_frame_.draw_position(view_.angles.rotation, view_.angles.inclination);
-    view_.draw_preview(frame_.record, plot_frame_.view.PLOTA.surface(), look());
+    draw_surface(record_.TestSizeX / 10, record_.TestSizeY / 10);
 }
 
-SurfaceView::Look ZvPlot3D::look() const
+void ZvPlot3D::draw_surface(double resolution_x, double resolution_y)
 {
-    return {to_i16(static_cast<double>(plot_type_))};
+    auto const& [x, y, angles, scale] = surface_view_;
+    record_.D3Plot(plot_surface(), resolution_x, resolution_y, scale, angles.rotation, angles.inclination, plot_style(),
+                   0, 0, 0, 0, 0, 0, 0);
+}
+
+std::int16_t ZvPlot3D::plot_style() const
+{
+    return to_i16(static_cast<double>(plot_type_));
 }
 
 void ZvPlot3D::ShowPlotOption()
 {
-    frmPlotOpt3d dialog(frame_.platform());
-    dialog.SetValues(frame_.record, view_.resolution_x, view_.resolution_y, view_.angles.rotation,
-                     view_.angles.inclination, view_.scale, to_i16(static_cast<double>(plot_type_)), plot_color());
+    auto const& [resolution_x, resolution_y, angles, scale] = surface_view_;
+    frmPlotOpt3d dialog(platform());
+    dialog.SetValues(record_, resolution_x, resolution_y, angles.rotation, angles.inclination, scale, plot_style(),
+                     plot_color());
     answer_options(dialog, [&] {
-        take_view(dialog);
+        take_surface_view(
+            {dialog.GetResx(), dialog.GetResy(), {dialog.GetAlp(), dialog.GetThet()}, to_i16(dialog.GetPlotSccale())});
         PlotType(static_cast<PlotTypeEnum>(dialog.GetPlotType()));
         take_color(dialog.GetBackColor());
     });
 }
 
-void ZvPlot3D::print_plot(PrintPanel& paper, PaperBox const& box, BooleanWord with_frame)
+void ZvPlot3D::print_plot(PrintPanel& paper, Box<Twips> const& box, BooleanWord with_frame)
 {
-    paper.Print_3DPlot(frame_.record, box.left, box.top, box.width, box.height, look().plot_style, view_.resolution_x,
-                       view_.resolution_y, view_.scale, view_.angles.rotation, view_.angles.inclination, PlotCaption(),
-                       with_frame);
-}
-
-std::vector<StoredProperty> const& ZvPlot3D::stored_properties() const
-{
-    return stored_properties_of_3d();
+    auto const& [resolution_x, resolution_y, angles, scale] = surface_view_;
+    paper.Print_3DPlot(record_, box.left, box.top, box.width, box.height, plot_style(), resolution_x, resolution_y,
+                       scale, angles.rotation, angles.inclination, PlotCaption(), with_frame);
 }
 
 Interface const& ZvPlot3D::interface_table()
 {
     using Z = ZvPlot3D;
-    auto const type_row = property<Z, PlotTypeEnum, &Z::PlotType, &Z::PlotType>("PlotType", "What the cells look like.")
-                              .of(plot_type_enumeration());
-    static Interface const table = plot_interface<Z>(
-        "ZvPlot3D", "Surface plot of one panel.",
-        {join({surface_view_rows<Z>(), {type_row, enable_rotation_row<Z>()}}), interval_color_rows<Z>()});
+    auto const type_row = [] {
+        return property<Z, PlotTypeEnum, &Z::PlotType, &Z::PlotType>("PlotType", "What the cells look like.")
+            .of(plot_type_enumeration())
+            .saved(surface_place::look, "StdD3PlotType", long_integer(1));
+    };
+    static Interface const table =
+        plot_interface("ZvPlot3D", "Surface plot of one panel.", SharedKeys::with_prefix("3D"),
+                       {join({surface_rows("3D"), {type_row(), enable_rotation_row<Z>()}}),
+                        interval_color_rows("3D", "2D")}); // reading takes the keys of the colour map
     return table;
 }
 

@@ -28,6 +28,9 @@ public:
     LineShape cross, cross_2;
     LineShape line;
     ImageBox mark;
+
+    /// Whether the panel has been drawn on the picture.
+    bool shows_figure = false;
 };
 
 } // namespace zendara

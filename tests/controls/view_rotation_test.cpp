@@ -3,6 +3,8 @@
 #include "zendara/controls/zv_plot_3db.hpp"
 #include "zendara/controls/zv_plot_3ds.hpp"
 
+#include <limits>
+
 namespace zendara::test
 {
 
@@ -108,10 +110,26 @@ TYPED_TEST(Dragged, APointerFarOutsideOfAPlotFailsNowhere)
 
 TYPED_TEST(Dragged, TurnsWhateverEnableRotationHolds)
 {
-    this->control.EnableRotation = false;
+    if constexpr (requires { this->control.EnableRotation; })
+        this->control.EnableRotation = false;
     this->down(300, 100);
     this->move(290, 100);
     EXPECT_EQ(this->view(), std::pair(50, 35));
+}
+
+TYPED_TEST(Dragged, TheMouseIsRaisedWhateverBecomesOfThePreview)
+{
+    this->control.record().TestSizeX = std::numeric_limits<double>::infinity(); // no figure can be drawn of it
+    this->control.record().HalfTestSizeX = std::numeric_limits<double>::infinity();
+    this->host.events.clear();
+    this->down(300, 100);
+    this->move(290, 95);
+    this->up(290, 95);
+    EXPECT_EQ(this->host.events, (Names{"MouseDown", "MouseMove", "MouseUp"}));
+    auto const failures = this->host.platform.take_failures(this->control.record());
+    ASSERT_GE(failures.size(), 2u);
+    EXPECT_EQ(failures[0].where, "rotation: begin");
+    EXPECT_EQ(failures[1].where, "rotation: turn");
 }
 
 TYPED_TEST(Dragged, AMoveWithoutAButtonTurnsNothingAndReachesTheHost)

@@ -3,6 +3,8 @@
 #include "support/failure_kind.hpp"
 #include "zendara/controls/zv_line_scan.hpp"
 
+#include <limits>
+
 namespace zendara::test
 {
 
@@ -440,27 +442,6 @@ TEST_F(PlottedScan, TheFormShowsItsOverviewAndClearsTheCurve)
     EXPECT_EQ(static_cast<int>(control.PlotType()), 7);
 }
 
-TEST_F(NewScan, EverySetterReportsItsPublicName)
-{
-    control.PanelSizeX(300);
-    control.TestSizeY(200);
-    control.angle(5);
-    control.PlotType(Form::vbAngle);
-    control.RotationPointX(1);
-    control.RotationPointY(1);
-    control.LineStartPointX(1);
-    control.LineStartPointY(1);
-    control.LineEndPointX(1);
-    control.LineEndPointY(1);
-    control.ShowSites(Sites::MarkSites);
-    control.BackColor(1);
-    control.HideLegend(true);
-    control.PlotCaption("x");
-    EXPECT_EQ(host.changes, (Names{"PanelSizeX", "TestSizeY", "Angle", "PlotType", "RotationPointX", "RotationPointY",
-                                   "LineStartPointX", "LineStartPointY", "LineEndPointX", "LineEndPointY", "ShowSites",
-                                   "BackColor", "HideLegend", "PlotCaption"}));
-}
-
 TEST_F(NewScan, TheBackColourGoesToEverythingButTheCurve)
 {
     control.BackColor(0x123456);
@@ -521,6 +502,26 @@ TEST_F(NewScan, ReleasingLimitsWritesTheLabelsWithoutAPlot)
     control.ReleasePlotLimit();
     EXPECT_EQ(captions("lblY")[3], "30.0000");
     EXPECT_TRUE(take_curve().empty());
+}
+
+TEST_F(PlottedScan, NewDataBehindReleasedLimitsBringTheirOwnLimits)
+{
+    control.SetPlotLimit(10, 30);
+    load(control, six_sites);
+    EXPECT_EQ(control.record().maximal, 30); // limits outlive new data
+    control.ReleasePlotLimit();
+    load(control, six_sites);
+    EXPECT_EQ(control.record().maximal, control.Maximum());
+    EXPECT_EQ(control.record().minimal, control.Minimum());
+}
+
+TEST_F(NewScan, PointsBeyond16BitsReadAsTheNearest)
+{
+    control.SetLineOrAngle(2, 0, 0, 0, 40000, -40000, 1e300, std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(control.LineStartPointX(), 32767);
+    EXPECT_EQ(control.LineStartPointY(), -32768);
+    EXPECT_EQ(control.LineEndPointX(), 32767);
+    EXPECT_EQ(control.LineEndPointY(), 0);
 }
 
 // --- Angle entry ---------------------------------------------------------------------------------------------------
@@ -819,18 +820,6 @@ TEST_F(NewScan, AnEndPointComesBackWithItsYAsItsX)
     EXPECT_EQ(other.control.angle(), 45);
     EXPECT_EQ(other.control.ShowSites(), Sites::MarkSites);
     EXPECT_EQ(other.control.PlotCaption(), "");
-}
-
-TEST_F(NewScan, PrintMembersRefuseBeforeThereAreDataAndInATooSmallControl)
-{
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 1000, 1000, frame), 2);
-    EXPECT_EQ(control.PrintPanelStatistic(0, 0, "mm"), 1);
-    EXPECT_EQ(control.PrintPanelSize(0, 0), 1);
-    load(control, six_sites);
-    control.window().host_allows_size = false;
-    control.window().resize(700, 4500);
-    EXPECT_EQ(control.PrintPlot(0, 0, 1000, 1000, frame), 1);
 }
 
 } // namespace zendara::test

@@ -51,11 +51,6 @@ TEST_F(NewControl, StartsWithThePublishedValues)
     EXPECT_EQ(control.PlotCaption(), "Panel");
 }
 
-TEST_F(NewControl, SetsTheHelpFileOfTheApplication)
-{
-    EXPECT_EQ(host.platform.help_file(), host.platform.application_path() + "\\zendara.hlp");
-}
-
 TEST(HelpFileName, LooksOneLetterShortOfTheEndForItsBackslash)
 {
     EXPECT_EQ(help_file_name("C:\\App"), "C:\\App\\zendara.hlp");
@@ -72,28 +67,6 @@ TEST_F(NewControl, PrintsToTheDefaultPrinterUntilTheHostSetsAnother)
 }
 
 // --- Plot ----------------------------------------------------------------------------------------------------------
-
-TEST_F(NewControl, PlotWithoutDataAnswers1AndLeavesTheScreen)
-{
-    host.take_record("PLOTA");
-    EXPECT_EQ(control.Plot(), 1);
-    EXPECT_TRUE(host.take_record("PLOTA").empty());
-}
-
-TEST_F(NewControl, NewDataDoNotDrawByThemselves)
-{
-    load(control, ten_sites);
-    EXPECT_FALSE(host.has_drawn());
-}
-
-TEST_F(NewControl, ASecondPlotWithoutAChangeDoesNotDraw)
-{
-    load(control, ten_sites);
-    EXPECT_EQ(control.Plot(), 0);
-    EXPECT_TRUE(host.has_drawn());
-    EXPECT_EQ(control.Plot(), 0);
-    EXPECT_FALSE(host.has_drawn());
-}
 
 TEST_F(NewControl, DrawsTheMapOfItsSettings)
 {
@@ -239,27 +212,6 @@ TEST_F(NewControl, TheBackColourGoesToEverythingButThePlot)
     EXPECT_NE(host.child("PLOTA").BackColor(), 0x123456);
 }
 
-TEST_F(NewControl, EverySetterReportsItsPublicName)
-{
-    control.PanelSizeX(300);
-    control.PanelSizeY(200);
-    control.TestSizeX(300);
-    control.TestSizeY(200);
-    control.ResolutionX(4);
-    control.ResolutionY(4);
-    control.ShowSites(Sites::MarkSites);
-    control.BackColor(1);
-    control.HideLegend(true);
-    control.PlotCaption("x");
-    control.MousePointer(2);
-    control.MouseIcon(nullptr);
-    control.IntervalColor0(1);
-    control.IntervalColor9(1);
-    EXPECT_EQ(host.changes, (Names{"PanelSizeX", "PanelSizeY", "TestSizeX", "TestSizeY", "ResolutionX", "ResolutionY",
-                                   "ShowSites", "BackColor", "HideLegend", "PlotCaption", "MousePointer", "MouseIcon",
-                                   "IntervalColor0", "IntervalColor9"}));
-}
-
 // --- Resolution check ----------------------------------------------------------------------------------------------
 
 TEST_F(NewControl, ResolutionsTooHighForTheTestedAreaAreLoweredWithAMessage)
@@ -289,6 +241,21 @@ TEST_F(NewControl, ResolutionsTooHighForTheTestedAreaAreLoweredWithAMessage)
         EXPECT_EQ(control.ResolutionX(), width == 10 ? 2.5 : 5);
         EXPECT_EQ(control.ResolutionY(), height == 8 ? 2 : 5);
     }
+}
+
+TEST_F(NewControl, AnAxisWithoutExtentIsNoLimitAndNoMessageNames0)
+{
+    load(control, ten_sites);
+    control.TestSizeX(0);
+    control.TestSizeY(8);
+    control.Plot();
+    auto const messages = host.platform.take_messages();
+    ASSERT_EQ(messages.size(), 1u);
+    EXPECT_EQ(messages[0].text, "Maximal possible ResolutionY is 2 mm");
+    EXPECT_EQ(control.ResolutionX(), 5);
+    control.TestSizeY(-8);
+    control.Plot();
+    EXPECT_TRUE(host.platform.take_messages().empty());
 }
 
 TEST_F(NewControl, AResolutionOfJustAQuarterPassesWithoutAWord)
@@ -335,6 +302,9 @@ TEST(ZvPlot2DLayout, PlacesTheColumnAtTheRightAndThePlotInASquareBesideIt)
     EXPECT_EQ(host.child("Frame1").Width(), 1890 + 240 + 210);
     EXPECT_EQ(column.Width(), 2340);
     EXPECT_EQ(column.Left(), 12000 - 2340);
+    EXPECT_EQ(column.Top(), 0);
+    EXPECT_EQ(column.Height(), 9000); // so that clicks below the frame reach the host
+    EXPECT_EQ(host.child("Frame1").Height(), 3180);
     EXPECT_EQ(host.child("Command1").Width(), 2130);
     EXPECT_EQ(host.child("FNLabel").Width(), 2130);
     auto& frame = host.child("Frplot");
@@ -387,15 +357,6 @@ TEST(ZvPlot2DLayout, WithoutTheLegendTheSmallestControlIs750By750)
     EXPECT_EQ(host.control.window().Width(), 750);
     EXPECT_EQ(host.control.window().Height(), 2000);
     EXPECT_EQ(host.child("Frplot").Height(), before); // and nothing else happens
-}
-
-TEST_F(PlottedControl, AResizeShowsTheStoredPictureStretched)
-{
-    control.window().resize(9000, 6000);
-    EXPECT_FALSE(host.has_drawn());
-    EXPECT_FALSE(host.child("PLOTA").Visible());
-    EXPECT_TRUE(host.child("RePlot").Visible());
-    EXPECT_EQ(host.child("RePlot").Height(), host.child("PLOTA").Height());
 }
 
 TEST_F(PlottedControl, AfterAResizePlotDrawsInTheNewSizeOnceThePictureIsInvalid)
@@ -603,30 +564,6 @@ TEST_F(NewControl, ClicksOfFourSourcesReachTheHostAndThoseOfTheLegendDoNot)
 
 // --- Print checks --------------------------------------------------------------------------------------------------
 
-TEST_F(NewControl, PrintingWithoutDataOrPrinterIsRefused)
-{
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 2);
-    EXPECT_EQ(control.PrintGridPlot(0, 0, 5000, 5000), 2);
-    EXPECT_EQ(control.PrintLegend(0, 0, frame), 1);
-    EXPECT_EQ(control.PrintPanelStatistic(0, 0, "nm"), 1);
-    EXPECT_EQ(control.PrintPanelSize(0, 0), 1);
-    load(control, ten_sites);
-    control.PrinterObj(nullptr);
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 2);
-}
-
-TEST_F(NewControl, PrintingFromAControlOf700TwipsIsRefused)
-{
-    load(control, ten_sites);
-    control.HideLegend(true);
-    control.window().host_allows_size = false;
-    control.window().resize(700, 2000);
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 1);
-    EXPECT_EQ(control.PrintGridPlot(0, 0, 5000, 5000), 1);
-}
-
 // --- Saving --------------------------------------------------------------------------------------------------------
 
 TEST_F(NewControl, SavedAndReadBackThePanelSizesAreTheStoresDefaults)
@@ -672,19 +609,6 @@ TEST_F(NewControl, EverySettingSurvivesTheStore)
     EXPECT_TRUE(other.control.HideLegend());
     EXPECT_EQ(other.control.PlotCaption(), "caption");
     EXPECT_EQ(other.control.MousePointer(), 3);
-}
-
-TEST_F(NewControl, WritesItsKeysInOrder)
-{
-    PropertyBag store;
-    control.WriteProperties(store);
-    Names keys;
-    for (auto const& entry : store.entries())
-        keys.push_back(entry.key);
-    EXPECT_EQ(keys, (Names{"2DBackColor", "2DPANELWD",   "2DPANELHD",   "2DInterCol0",    "2DInterCol1",
-                           "2DInterCol2", "2DInterCol3", "2DInterCol4", "2DInterCol5",    "2DInterCol6",
-                           "2DInterCol7", "2DInterCol8", "2DInterCol9", "StdResx2D",      "StdResY2D",
-                           "StdMark2D",   "2DLegend",    "2DCaption",   "2DMousePointer", "2DMouseIcon"}));
 }
 
 TEST_F(NewControl, AnEmptyStoreGivesTheDefaults)

@@ -100,23 +100,6 @@ TEST_F(ContourControl, ANegativeIntervalIsStoredAs1)
     EXPECT_EQ(control.Interval(), 0.25);
 }
 
-TEST_F(ContourControl, EverySetterReportsItsPublicName)
-{
-    control.Interval(2);
-    control.IntervalInPercent(true);
-    control.marksites(ContourMarks::None);
-    control.Resolution(ContourResolution::Automatic);
-    control.PlotColored(ContourColors::BWhitePlot);
-    control.MeasurementUnit("nm");
-    control.MeanCurveColor(1);
-    control.UpperCurveColor(2);
-    control.LowerCurveColor(3);
-    control.IntervalColor3(4);
-    EXPECT_EQ(host.changes,
-              (Names{"Interval", "IntervalInPercent", "MarkSites", "Resolution", "PlotColored", "MeasurementUnit",
-                     "MeanCurveColor", "UpperCurveColor", "LowerCurveColor", "IntervalColor3"}));
-}
-
 TEST_F(ContourControl, SettingsWaitForTheNextPlot)
 {
     load(control, ten_sites);
@@ -302,16 +285,19 @@ TEST_F(ContourControl, TheIntervalLabelShowsTheDistanceWithItsUnitOrAsAPercentag
     EXPECT_EQ(interval_text(), "Interval: 12.5 %");
 }
 
-TEST_F(ContourControl, AWideUnitWidensTheColumn)
+TEST_F(ContourControl, AUnitOfAnyLengthIsCutAtTheLegendsEdgeAndTakesNothingFromThePlot)
 {
     load(control, ten_sites);
-    control.Interval(20);
-    control.MeasurementUnit("millionths of an inch");
+    control.Plot();
+    double const column_left = host.child("frmove").Left();
+    double const plot_width = host.child("PLOTA").Width();
+    control.MeasurementUnit(std::string(500, 'm'));
     control.Plot();
     auto const& label = host.child("lblInterval");
-    ASSERT_GT(label.Left() + label.Width(), 1890);
-    EXPECT_EQ(host.child("legende").Width(), label.Left() + label.Width());
-    EXPECT_EQ(host.child("frmove").Left(), 6000 - (label.Left() + label.Width() + 450));
+    EXPECT_EQ(host.child("legende").Width(), 1890);
+    EXPECT_EQ(label.Left() + label.Width(), 1890);
+    EXPECT_EQ(host.child("frmove").Left(), column_left);
+    EXPECT_EQ(host.child("PLOTA").Width(), plot_width);
 }
 
 TEST_F(ContourControl, NothingOfTheColumnOverlaps)
@@ -338,67 +324,6 @@ TEST_F(ContourControl, TheTextsOfTheLegendShareItsBackColour)
 }
 
 // --- Interface -----------------------------------------------------------------------------------------------------
-
-TEST_F(ContourControl, HasItsMembersInTheOrderOfItsInterface)
-{
-    Names names;
-    for (auto const& member : control.host_interface().members)
-        names.emplace_back(member.name);
-    EXPECT_EQ(names, (Names{"PrinterObj",
-                            "hdc",
-                            "hwnd",
-                            "MouseIcon",
-                            "MousePointer",
-                            "About",
-                            "StdDevPercent",
-                            "StdDev",
-                            "HiLo",
-                            "range",
-                            "Maximum",
-                            "Minimum",
-                            "mean",
-                            "PanelSizeX",
-                            "PanelSizeY",
-                            "TestSizeX",
-                            "TestSizeY",
-                            "Interval",
-                            "IntervalInPercent",
-                            "MeasurementUnit",
-                            "marksites",
-                            "Resolution",
-                            "PlotColored",
-                            "MeanCurveColor",
-                            "UpperCurveColor",
-                            "LowerCurveColor",
-                            "Plot",
-                            "BackColor",
-                            "ShowPlotOption",
-                            "ReleasePlotLimit",
-                            "SetPlotLimit",
-                            "SetPanelData",
-                            "HideLegend",
-                            "PlotCaption",
-                            "PrintPlot",
-                            "PrintPlot_THN",
-                            "PrintLegend",
-                            "PrintPanelStatistic",
-                            "PrintPanelSize",
-                            "clear",
-                            "GetPanelData",
-                            "Interpolation",
-                            "IntervalColor1",
-                            "IntervalColor2",
-                            "IntervalColor3",
-                            "IntervalColor4",
-                            "IntervalColor5",
-                            "IntervalColor6",
-                            "IntervalColor7",
-                            "IntervalColor8",
-                            "IntervalColor9",
-                            "IntervalColor0",
-                            "SetPlotNotVaild",
-                            "SetDataFile"}));
-}
 
 TEST_F(ContourControl, NamesTheValuesOfItsEnumerations)
 {
@@ -433,30 +358,6 @@ TEST_F(ContourControl, ClicksOfFourSourcesReachTheHost)
         host.child(name).raise("Click");
     control.window().raise("Click");
     EXPECT_EQ(host.events, (Names{"Click", "Click", "Click", "Click"}));
-}
-
-TEST_F(ContourControl, PrintingWithoutDataOrPrinterIsRefused)
-{
-    std::string info = "info";
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 2);
-    EXPECT_EQ(control.PrintPlot_THN(0, 0, 5000, 5000, info), 2);
-    EXPECT_EQ(control.PrintLegend(0, 0, frame), 1);
-    load(control, ten_sites);
-    control.PrinterObj(nullptr);
-    EXPECT_EQ(control.PrintPlot_THN(0, 0, 5000, 5000, info), 2);
-}
-
-TEST_F(ContourControl, PrintingFromAControlOf700TwipsIsRefused)
-{
-    std::string info = "info";
-    load(control, ten_sites);
-    control.HideLegend(true);
-    control.window().host_allows_size = false;
-    control.window().resize(700, 2000);
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 1);
-    EXPECT_EQ(control.PrintPlot_THN(0, 0, 5000, 5000, info), 1);
 }
 
 // --- Saving --------------------------------------------------------------------------------------------------------
@@ -503,19 +404,6 @@ TEST_F(ContourControl, AnEmptyStoreGivesTheStartValuesAndOtherPanelSizes)
     EXPECT_EQ(control.PanelSizeX(), 210);
     EXPECT_EQ(control.PanelSizeY(), 195);
     expect_legend(false, true);
-}
-
-TEST_F(ContourControl, WritesItsOwnKeysBehindThoseOfTheIntervalColours)
-{
-    PropertyBag store;
-    control.WriteProperties(store);
-    Names keys;
-    for (auto const& entry : store.entries())
-        keys.push_back(entry.key);
-    ASSERT_GE(keys.size(), 22u);
-    EXPECT_EQ(Names(keys.begin() + 13, keys.begin() + 22),
-              (Names{"2DCMeanCurveCol", "2DCUpperCurveCol", "2DCLowerCurveCol", "StdReso", "StdExCon", "StdDist",
-                     "StdDistPerecent", "StdColor", "2DCMeasurementUnit"}));
 }
 
 // --- Picture -------------------------------------------------------------------------------------------------------

@@ -79,16 +79,6 @@ TEST_F(PlottedNumbers, ABackColourMakesTheNextPlotDrawAnew)
     EXPECT_TRUE(has_drawn());
 }
 
-TEST_F(PlottedNumbers, ASecondPlotWithoutAChangeDoesNotDraw)
-{
-    host.take_record("PLOTA");
-    control.Plot();
-    EXPECT_FALSE(has_drawn());
-    control.SetPlotNotVaild();
-    control.Plot();
-    EXPECT_TRUE(has_drawn());
-}
-
 TEST_F(PlottedNumbers, ItHasNoRasterAndPrintsSiteNumbersInstead)
 {
     auto const& table = control.host_interface();
@@ -98,14 +88,6 @@ TEST_F(PlottedNumbers, ItHasNoRasterAndPrintsSiteNumbersInstead)
     control.PrinterObj(nullptr);
     BooleanWord frame = true;
     EXPECT_EQ(control.PrintGridNumber(0, 0, 1000, 1000, frame), 2);
-}
-
-TEST_F(PlottedNumbers, ResizingShowsTheStoredPicture)
-{
-    host.take_record("PLOTA");
-    control.window().resize(9000, 7000);
-    EXPECT_FALSE(has_drawn());
-    EXPECT_TRUE(host.child("RePlot").Visible());
 }
 
 } // namespace zendara::test

@@ -77,6 +77,19 @@ TEST_F(Surface3D, AnglesBelow0Become0AndFrom92OnTheStandardOnes)
     EXPECT_EQ(control.GridInclination(), 35);
 }
 
+TEST_F(Surface3D, AnyResolutionTellsThePanelOfTheChange)
+{
+    control.record().changeResx = false;
+    control.XResolution(5);
+    EXPECT_TRUE(control.record().changeResx);
+    control.record().changeResx = false;
+    control.YResolution(7);
+    EXPECT_TRUE(control.record().changeResx);
+    control.record().changeResx = false;
+    control.GridRotation(7);
+    EXPECT_FALSE(control.record().changeResx);
+}
+
 TEST_F(Surface3D, AScaleBelow1Becomes40)
 {
     control.PlotScale(1);
@@ -201,19 +214,6 @@ TEST_F(Surface3D, APanelWithoutSizeGetsAHeightOf200AndNoWidth)
     EXPECT_EQ(control.PanelSizeX(), 0);
 }
 
-TEST_F(Surface3D, PlotWithoutDataAnswers1)
-{
-    EXPECT_EQ(control.Plot(), 1);
-    EXPECT_FALSE(host.has_drawn());
-}
-
-TEST_F(Surface3D, PrintingWithoutDataIsRefused)
-{
-    BooleanWord frame = true;
-    EXPECT_EQ(control.PrintPlot(0, 0, 5000, 5000, frame), 2);
-    EXPECT_EQ(control.PrintLegend(0, 0, frame), 1);
-}
-
 TEST_F(Surface3D, ColoursAreReadBackFromTheKeysOfTheColourMap)
 {
     control.IntervalColor0(77);
@@ -248,18 +248,6 @@ TEST_F(Surface3D, EveryOtherSettingSurvivesTheStore)
     EXPECT_EQ(other.control.GridInclination(), 81);
     EXPECT_EQ(other.control.PlotType(), PlotTypeEnum::HiddenWireFrame);
     EXPECT_EQ(other.control.PlotScale(), 12);
-}
-
-TEST_F(Surface3D, ItsInterfaceHasTheViewInPlaceOfTheMapsRaster)
-{
-    Names own;
-    for (auto const& member : control.host_interface().members)
-        own.emplace_back(member.name);
-    auto const begin = std::find(own.begin(), own.end(), "TestSizeY") + 1;
-    auto const end = std::find(own.begin(), own.end(), "Plot");
-    EXPECT_EQ(Names(begin, end), (Names{"XResolution", "YResolution", "GridRotation", "GridInclination", "PlotScale",
-                                        "PlotType", "EnableRotation"}));
-    EXPECT_EQ(control.host_interface().find("PrintGridPlot"), nullptr);
 }
 
 } // namespace zendara::test

@@ -146,15 +146,4 @@ TEST_F(Bars3D, SettingsSurviveTheStoreAndColoursAreReadFromTheKeysOfTheColourMap
     EXPECT_EQ(other.control.IntervalColor0(), QBColor(4));
 }
 
-TEST_F(Bars3D, ItsInterfaceHasTheBarsInPlaceOfTheMapsRaster)
-{
-    Names own;
-    for (auto const& member : control.host_interface().members)
-        own.emplace_back(member.name);
-    auto const begin = std::find(own.begin(), own.end(), "TestSizeY") + 1;
-    auto const end = std::find(own.begin(), own.end(), "Plot");
-    EXPECT_EQ(Names(begin, end),
-              (Names{"BeamWidth", "BeamHeight", "BeamScale", "GridRotation", "GridInclination", "EnableRotation"}));
-}
-
 } // namespace zendara::test

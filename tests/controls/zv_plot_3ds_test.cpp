@@ -42,7 +42,6 @@ TEST_F(SigmaSurface, StartsWithThePublishedValues)
     EXPECT_EQ(control.GridInclination(), 35);
     EXPECT_EQ(control.PlotScale(), 40);
     EXPECT_EQ(control.SigmaRange(), 0.5);
-    EXPECT_TRUE(control.EnableRotation);
 }
 
 TEST_F(SigmaSurface, ANegativeSigmaRangeBecomesAHalf)
@@ -117,15 +116,6 @@ TEST_F(SigmaSurface, ResolutionsTooHighForTheTestedAreaAreLoweredWithAMessage)
     EXPECT_EQ(control.XResolution(), 75);
 }
 
-TEST_F(SigmaSurface, SettersReportTheirPublicNames)
-{
-    control.PanelRotation(3);
-    control.SigmaRange(2);
-    control.XResolution(3);
-    control.IntervalColor2(1);
-    EXPECT_EQ(host.changes, (Names{"PanelRotation", "SigmaRange", "XResolution", "IntervalColor2"}));
-}
-
 TEST_F(SigmaSurface, EverySettingSurvivesTheStore)
 {
     control.IntervalColor1(9);
@@ -148,15 +138,6 @@ TEST_F(SigmaSurface, EverySettingSurvivesTheStore)
     EXPECT_EQ(other.control.GridInclination(), 81);
     EXPECT_EQ(other.control.SigmaRange(), 1.25);
     EXPECT_EQ(other.control.PlotScale(), 12);
-}
-
-TEST_F(SigmaSurface, ItsInterfaceHasThreeColoursAndNoPlotType)
-{
-    auto const& table = control.host_interface();
-    EXPECT_NE(table.find("IntervalColor2"), nullptr);
-    EXPECT_EQ(table.find("IntervalColor3"), nullptr);
-    EXPECT_EQ(table.find("PlotType"), nullptr);
-    EXPECT_NE(table.find("PanelRotation"), nullptr);
 }
 
 } // namespace zendara::test

@@ -1,4 +1,5 @@
 #include "controls/control_fixture.hpp"
+#include "zendara/controls/control_classes.hpp"
 #include "zendara/controls/zv_histogram.hpp"
 #include "zendara/controls/zv_line_scan.hpp"
 #include "zendara/controls/zv_plot_2d.hpp"
@@ -349,8 +350,7 @@ TEST(AboutOfTheControls, NamesEachKind)
     platform.on_modal = [&](Form& form) { kinds.push_back(form.caption().substr(form.caption().find(": ") + 2)); };
     for (ControlClass const& each : control_classes()) {
         auto const control = each.make(platform);
-        std::vector<Value> none;
-        call_member(*control, "About", none);
+        control->About();
     }
     EXPECT_EQ(kinds, (std::vector<std::string>{"2D Plot", "2D Number Plot", "2D Sigma Range Plot", "2D Contur Plot",
                                                "3D Plot", "3D Sigma Range Plot", "3D Plot", "Histogram", "Line Scan"}));

@@ -1,5 +1,5 @@
 #include "trace_text.hpp"
-#include "zendara/controls/control.hpp"
+#include "zendara/controls/control_classes.hpp"
 #include "zendara/dialogs/dialog_classes.hpp"
 #include "zendara/form/check_box.hpp"
 #include "zendara/form/line_shape.hpp"

@@ -4,7 +4,7 @@
 #include "script/options.hpp"
 #include "script/pdf_printer.hpp"
 #include "script/support_routines.hpp"
-#include "zendara/controls/control.hpp"
+#include "zendara/controls/control_classes.hpp"
 #include "zendara/dialogs/dialog_classes.hpp"
 #include "zendara/panel/panel.hpp"
 #include "zendara/print/print_panel.hpp"

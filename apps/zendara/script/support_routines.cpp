@@ -1,6 +1,6 @@
 #include "script/support_routines.hpp"
 
-#include "zendara/controls/control_frame.hpp"
+#include "zendara/controls/control.hpp"
 #include "zendara/panel/load.hpp"
 #include "zendara/render/plots/panel_figure.hpp"
 #include "zendara/support/field_check.hpp"
