@@ -2,7 +2,7 @@
 // step of a drag.
 
 #include "../tests/panels.hpp"
-#include "../tests/render/block_glyphs.hpp"
+#include "../tests/render/surface/block_glyphs.hpp"
 #include "null_surface.hpp"
 #include "zendara/render/surface/raster_picture.hpp"
 

@@ -2,7 +2,7 @@
 // the same crossings costs in a bare loop.
 
 #include "../tests/panels.hpp"
-#include "../tests/render/block_glyphs.hpp"
+#include "../tests/render/surface/block_glyphs.hpp"
 #include "null_surface.hpp"
 #include "zendara/render/plots/contour_mesh.hpp"
 #include "zendara/render/surface/raster_picture.hpp"

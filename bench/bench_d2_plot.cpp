@@ -1,7 +1,7 @@
 // The colour map: the routine alone, on pixels, and what the same values and polygons cost in bare loops.
 
 #include "../tests/panels.hpp"
-#include "../tests/render/block_glyphs.hpp"
+#include "../tests/render/surface/block_glyphs.hpp"
 #include "null_surface.hpp"
 #include "zendara/render/plots/site_plot.hpp"
 #include "zendara/render/surface/raster_picture.hpp"

@@ -1,6 +1,6 @@
 // The document: sizes, units, texts, pages, and what stands on the disk at which time.
 
-#include "headless/paper_pages.hpp"
+#include "files/paper_pages.hpp"
 #include "support/failure_kind.hpp"
 #include "zendara/support/failure.hpp"
 

@@ -1,6 +1,6 @@
 // The whole drawing of a histogram, call by call, against the one worked out in histogram_expected.hpp.
 
-#include "histogram_expected.hpp"
+#include "render/plots/histogram_expected.hpp"
 
 namespace zendara::test
 {

@@ -1,4 +1,4 @@
-#include "block_glyphs.hpp"
+#include "render/surface/block_glyphs.hpp"
 #include "zendara/render/surface/raster_picture.hpp"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,10 @@
-#include "control_fixture.hpp"
+#include "zendara/form/children.hpp"
 #include "zendara/form/line_shape.hpp"
 #include "zendara/form/window_painter.hpp"
+#include "zendara/platform/headless/headless_platform.hpp"
+#include "zendara/support/interface.hpp"
+
+#include <gtest/gtest.h>
 
 namespace zendara::test
 {

@@ -1,6 +1,6 @@
 // What shows on the page: fields of cells without seams, outlined polygons, hatches, the order of painting.
 
-#include "headless/paper_pages.hpp"
+#include "files/paper_pages.hpp"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#include "block_glyphs.hpp"
 #include "panels.hpp"
+#include "render/surface/block_glyphs.hpp"
 #include "trace_text.hpp"
 #include "zendara/render/plots/site_plot.hpp"
 #include "zendara/render/surface/raster_picture.hpp"

@@ -1,5 +1,5 @@
-#include "render/block_glyphs.hpp"
-#include "render/picture_rows.hpp"
+#include "render/surface/block_glyphs.hpp"
+#include "render/surface/picture_rows.hpp"
 #include "support/failure_kind.hpp"
 #include "zendara/render/surface/raster_picture.hpp"
 

@@ -1,6 +1,6 @@
 #include "listening_container.hpp"
 #include "panels.hpp"
-#include "scan_widgets.hpp"
+#include "render/plots/line_scan_widgets.hpp"
 #include "support/failure_kind.hpp"
 #include "trace_text.hpp"
 

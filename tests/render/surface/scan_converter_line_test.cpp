@@ -1,4 +1,4 @@
-#include "render/picture_rows.hpp"
+#include "render/surface/picture_rows.hpp"
 #include "zendara/render/surface/scan_converter.hpp"
 
 #include <gtest/gtest.h>

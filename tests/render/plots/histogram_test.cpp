@@ -1,5 +1,5 @@
-#include "histogram_drawing.hpp"
 #include "listening_container.hpp"
+#include "render/plots/histogram_drawing.hpp"
 #include "zendara/render/plots/histogram_plot.hpp"
 #include "zendara/support/process_state.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "histogram_drawing.hpp"
+#include "render/plots/histogram_drawing.hpp"
 #include "zendara/support/process_state.hpp"
 
 namespace zendara::test
