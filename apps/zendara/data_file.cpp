@@ -2,6 +2,7 @@
 
 #include "csv_table.hpp"
 #include "progress.hpp"
+#include "zendara/support/file.hpp"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +12,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <sys/stat.h>
 #include <vector>
 
@@ -22,11 +22,6 @@ namespace
 {
 
 constexpr std::uint64_t bytes_per_site = 24; // x, y and Z as 64-bit floats
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
 
 struct OpenFile {
     File file;

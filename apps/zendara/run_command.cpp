@@ -1,12 +1,12 @@
 #include "commands.hpp"
 #include "script/script.hpp"
 #include "script/session.hpp"
+#include "zendara/support/file.hpp"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <string>
 
 namespace zendara::program
@@ -28,7 +28,7 @@ std::string read_all(std::FILE* file, std::string const& name)
 
 std::string read_file(std::string const& name)
 {
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(std::fopen(name.c_str(), "rb"), std::fclose);
+    File const file(std::fopen(name.c_str(), "rb"));
     if (!file)
         throw UserError(name + ": " + std::strerror(errno));
     return read_all(file.get(), name);

@@ -1,11 +1,11 @@
 #include "zendara/files/whole_file.hpp"
 
 #include "zendara/support/failure.hpp"
+#include "zendara/support/file.hpp"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -16,11 +16,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
 
 std::string last_error()
 {

@@ -1,14 +1,13 @@
 #include "zendara/panel/load.hpp"
 
 #include "zendara/support/checked.hpp"
+#include "zendara/support/file.hpp"
 #include "zendara/support/trap.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstring>
 #include <limits>
-#include <memory>
 #include <vector>
 
 namespace zendara
@@ -18,11 +17,6 @@ namespace
 {
 
 using Array = HostArray<double>;
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 struct SiteColumns {
     Array x, y, Z;

@@ -3,6 +3,7 @@
 #include "csv_table.hpp"
 #include "data_file.hpp"
 #include "progress.hpp"
+#include "zendara/support/file.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -54,13 +55,12 @@ template <class Read> void read_and_check(Read read)
 
 void read_as_csv(std::uint8_t const* bytes, std::size_t size)
 {
-    std::FILE* const file = fmemopen(const_cast<std::uint8_t*>(bytes), size, "rb");
+    zendara::File const file(fmemopen(const_cast<std::uint8_t*>(bytes), size, "rb"));
     expect(file != nullptr, "the bytes cannot be opened");
     read_and_check([&] {
         Progress progress("reading");
-        return read_csv(file, "fuzz.csv", size, progress);
+        return read_csv(file.get(), "fuzz.csv", size, progress);
     });
-    std::fclose(file);
 }
 
 void read_as_raw(std::uint8_t const* bytes, std::size_t size, std::optional<std::int64_t> sites)
