@@ -1,5 +1,7 @@
 #include "csv_table.hpp"
 
+#include "zendara/support/failure.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -32,16 +34,6 @@ std::string_view trimmed(std::string_view text)
 bool is_axis(std::string_view cell, std::string_view name)
 {
     return cell.size() == 1 && std::tolower(static_cast<unsigned char>(cell.front())) == name.front();
-}
-
-/// A cell as a message shows it: short and without control letters.
-std::string shown(std::string_view cell)
-{
-    constexpr std::size_t longest = 40;
-    std::string text(cell.substr(0, longest));
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
-    return '"' + text + (cell.size() > longest ? "...\"" : "\"");
 }
 
 /// The lines of a file, one at a time, counted from 1.

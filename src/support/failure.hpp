@@ -38,5 +38,11 @@ private:
 [[noreturn]] void fail(FailureKind kind, char const* which);
 /// The message names the value that was wrong as well.
 [[noreturn]] void fail(FailureKind kind, char const* which, double value);
+[[noreturn]] void fail(FailureKind kind, char const* which, std::string_view text);
+
+/// A value as messages show it: ten digits of a number; a text in quotes, cut behind 40 bytes and without control
+/// letters.
+std::string shown(double value);
+std::string shown(std::string_view text);
 
 } // namespace zendara

@@ -28,7 +28,7 @@ public:
     {
         std::int64_t const count = std::int64_t{upper} - lower + 1;
         if (count < 0)
-            fail(FailureKind::SubscriptOutOfRange, "an array's upper bound lies below its lower bound");
+            fail(FailureKind::SubscriptOutOfRange, "an array's upper bound lies below its lower bound", upper);
         values_.assign(static_cast<std::size_t>(count), T{});
         lower_ = lower;
         is_dimensioned_ = true;

@@ -1,5 +1,6 @@
 #include "zendara/support/value.hpp"
 
+#include "zendara/support/interface.hpp"
 #include "zendara/support/number_text.hpp"
 
 namespace zendara
@@ -8,29 +9,61 @@ namespace zendara
 namespace
 {
 
-[[noreturn]] void mismatch(char const* wanted)
+std::string description(Object const* object)
 {
-    throw Failure(FailureKind::TypeMismatch, std::string("the value is no ") + wanted);
+    return object == nullptr ? "nothing" : "an object of class " + std::string(object->host_interface().class_name);
+}
+
+/// The value as messages show it.
+std::string description(Value const& value)
+{
+    return std::visit(
+        [](auto const& held) -> std::string {
+            using Held = std::remove_cvref_t<decltype(held)>;
+            if constexpr (std::is_arithmetic_v<Held>)
+                return shown(static_cast<double>(held));
+            else if constexpr (std::is_same_v<Held, std::string>)
+                return shown(std::string_view(held));
+            else if constexpr (std::is_same_v<Held, Object*>)
+                return description(held);
+            else if constexpr (std::is_same_v<Held, HostArray<double>>)
+                return "an array";
+            else if constexpr (std::is_same_v<Held, ObjectList>)
+                return "a list of objects";
+            else
+                return "nothing";
+        },
+        value);
+}
+
+[[noreturn]] void mismatch(char const* wanted, Value const& value)
+{
+    throw Failure(FailureKind::TypeMismatch, std::string("the value is no ") + wanted + ": " + description(value));
 }
 
 } // namespace
 
+void fail_for_class(Object const& object)
+{
+    throw Failure(FailureKind::TypeMismatch, "the member does not take what it was given: " + description(&object));
+}
+
 double to_double(Value const& value)
 {
     return std::visit(
-        [](auto const& held) -> double {
+        [&](auto const& held) -> double {
             using Held = std::remove_cvref_t<decltype(held)>;
             if constexpr (std::is_arithmetic_v<Held>) {
                 return static_cast<double>(held);
             } else if constexpr (std::is_same_v<Held, std::string>) {
                 auto const number = parse_number(held);
                 if (!number)
-                    mismatch("number");
+                    mismatch("number", value);
                 return *number;
             } else if constexpr (std::is_same_v<Held, Empty>) {
                 return 0;
             } else {
-                mismatch("number");
+                mismatch("number", value);
             }
         },
         value);
@@ -39,7 +72,7 @@ double to_double(Value const& value)
 std::string to_text(Value const& value)
 {
     return std::visit(
-        [](auto const& held) -> std::string {
+        [&](auto const& held) -> std::string {
             using Held = std::remove_cvref_t<decltype(held)>;
             if constexpr (std::is_same_v<Held, std::string>)
                 return held;
@@ -48,7 +81,7 @@ std::string to_text(Value const& value)
             else if constexpr (std::is_same_v<Held, Empty>)
                 return {};
             else
-                mismatch("text");
+                mismatch("text", value);
         },
         value);
 }
@@ -57,7 +90,7 @@ HostArray<double> const& to_array(Value const& value)
 {
     auto const* const array = std::get_if<HostArray<double>>(&value);
     if (array == nullptr)
-        mismatch("array");
+        mismatch("array", value);
     return *array;
 }
 
@@ -67,7 +100,7 @@ Object* to_object(Value const& value)
         return nullptr;
     auto const* const object = std::get_if<Object*>(&value);
     if (object == nullptr)
-        mismatch("object");
+        mismatch("object", value);
     return *object;
 }
 
@@ -78,7 +111,7 @@ ObjectList to_object_list(Value const& value)
     auto const* const array = std::get_if<HostArray<double>>(&value);
     bool const is_empty = std::holds_alternative<Empty>(value) || (array != nullptr && array->values().empty());
     if (!is_empty)
-        mismatch("list of objects");
+        mismatch("list of objects", value);
     return {};
 }
 

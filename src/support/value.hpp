@@ -46,6 +46,9 @@ Object* to_object(Value const& value);
 /// @throws Failure  TypeMismatch when it holds anything else
 ObjectList to_object_list(Value const& value);
 
+/// Refuses an object that is of another class than the member takes.
+[[noreturn]] void fail_for_class(Object const& object);
+
 /// Converts an interface value into the C++ type that a member takes. Numbers are rounded half to even.
 /// @throws Failure  TypeMismatch, or Overflow when a number does not fit
 template <class T> T from_value(Value const& value);

@@ -44,7 +44,7 @@ template <class T> T from_value(Value const& value)
             return nullptr;
         auto* const found = object_cast<std::remove_pointer_t<T>>(object);
         if (found == nullptr)
-            fail(FailureKind::TypeMismatch, "an object is of another class than the member takes");
+            fail_for_class(*object);
         return found;
     }
 }

@@ -139,6 +139,17 @@ TEST(Nearest, RoundsHalfToEvenAndNeverFails)
     EXPECT_EQ(nearest_i32(not_a_number), 0);
 }
 
+TEST(Checks, NameTheValueThatWasWrong)
+{
+    std::int16_t full = 32767;
+    EXPECT_EQ(message_of([] { to_i16(-40000.5); }), "a number does not fit into 16 bits: -40000.5");
+    EXPECT_EQ(message_of([] { to_i32(not_a_number); }), "a number does not fit into 32 bits: nan");
+    EXPECT_EQ(message_of([] { to_f32(1e39); }), "a number does not fit into a 32-bit float: 1e+39");
+    EXPECT_EQ(message_of([] { zendara::finite(-infinity); }), "the result of a calculation is not finite: -inf");
+    EXPECT_EQ(message_of([] { divide(7.5, 0); }), "a number is divided by 0: 7.5");
+    EXPECT_EQ(message_of([&] { count_on(full); }), "a 16-bit counter passes 32767");
+}
+
 TEST(CountOn, CountsTo32767AndFailsThere)
 {
     std::int16_t counter = 32766;

@@ -1,3 +1,4 @@
+#include "failure_kind.hpp"
 #include "listening_container.hpp"
 #include "zendara/support/checked.hpp"
 #include "zendara/support/failure.hpp"
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <new>
 #include <set>
 #include <stdexcept>
@@ -43,6 +45,40 @@ TEST(Failure, CarriesItsKindAndItsMessage)
         EXPECT_EQ(failure.kind(), FailureKind::FileError);
         EXPECT_STREQ(failure.what(), "the file is gone");
     }
+}
+
+TEST(Failure, TheMessageNamesTheValueThatWasWrong)
+{
+    EXPECT_EQ(message_of([] { fail(FailureKind::Overflow, "too large", 1.5); }), "too large: 1.5");
+    EXPECT_EQ(message_of([] { fail(FailureKind::Overflow, "too large", 40000); }), "too large: 40000");
+    EXPECT_EQ(message_of([] { fail(FailureKind::TypeMismatch, "no number", "abc"); }), "no number: \"abc\"");
+}
+
+TEST(Shown, ANumberThatIsNoneHasNoSign)
+{
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(shown(nan), "nan");
+    EXPECT_EQ(shown(-nan), "nan");
+    EXPECT_EQ(shown(-std::numeric_limits<double>::infinity()), "-inf");
+}
+
+TEST(Shown, ALongTextIsCutBehindFortyBytesAndWithinNoLetter)
+{
+    std::string const forty(40, 'a');
+    EXPECT_EQ(shown(forty), '"' + forty + '"');
+    EXPECT_EQ(shown(forty + 'b'), '"' + forty + "...\"");
+    for (std::size_t const letters : {37u, 38u, 39u}) {
+        std::string const start(letters, 'a');
+        EXPECT_EQ(shown(start + "\xf0\x9f\x99\x82 and so on"), '"' + start + "...\"") << letters;
+    }
+    EXPECT_EQ(shown(std::string(36, 'a') + "\xf0\x9f\x99\x82 and so on"),
+              '"' + std::string(36, 'a') + "\xf0\x9f\x99\x82...\"");
+    EXPECT_EQ(shown(std::string(50, '\x82')).size(), 36u + 5); // no text at all, but short too
+}
+
+TEST(Shown, ControlLettersOfATextShowAsQuestionMarks)
+{
+    EXPECT_EQ(shown("a\tb\nc\x7f \xc3\xa9"), "\"a?b?c? \xc3\xa9\"");
 }
 
 namespace

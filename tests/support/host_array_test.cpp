@@ -84,6 +84,13 @@ TEST(HostArray, RedimFurtherBelowIsAFailureAndKeepsTheArray)
     EXPECT_EQ(array(1), 2);
 }
 
+TEST(HostArray, AFailureNamesTheIndexOrTheBoundThatWasWrong)
+{
+    HostArray<double> array(1, {10, 20});
+    EXPECT_EQ(message_of([&] { array(-7); }), "an index lies outside its array: -7");
+    EXPECT_EQ(message_of([&] { array.redim(1, -5); }), "an array's upper bound lies below its lower bound: -5");
+}
+
 TEST(HostArray, EraseTakesValuesAndBoundsAway)
 {
     HostArray<double> array(0, {1, 2});

@@ -59,6 +59,23 @@ TEST(Value, WhatIsNoNumberDoesNotConvertToOne)
         EXPECT_EQ(failure_of([&] { to_double(value); }), FailureKind::TypeMismatch) << value.index();
 }
 
+TEST(Value, ARefusalNamesTheValueThatWasWrong)
+{
+    Book book;
+    EXPECT_EQ(message_of([] { to_double(Value(std::string("abc"))); }), "the value is no number: \"abc\"");
+    EXPECT_EQ(message_of([] { to_double(Value(std::string(300, '7') + 'x')); }),
+              "the value is no number: \"" + std::string(40, '7') + "...\"");
+    EXPECT_EQ(message_of([] { to_double(array); }), "the value is no number: an array");
+    EXPECT_EQ(message_of([] { to_double(Value(ObjectList{})); }), "the value is no number: a list of objects");
+    EXPECT_EQ(message_of([&] { to_text(Value(&book)); }), "the value is no text: an object of class Lamp");
+    EXPECT_EQ(message_of([] { to_text(Value(static_cast<Object*>(nullptr))); }), "the value is no text: nothing");
+    EXPECT_EQ(message_of([] { to_array(Value()); }), "the value is no array: nothing");
+    EXPECT_EQ(message_of([] { to_object(Value(1.5)); }), "the value is no object: 1.5");
+    EXPECT_EQ(message_of([] { to_object_list(Value(std::int16_t{-1})); }), "the value is no list of objects: -1");
+    EXPECT_EQ(message_of([&] { from_value<Shelf*>(Value(&book)); }),
+              "the member does not take what it was given: an object of class Lamp");
+}
+
 TEST(Value, NumbersConvertToTheirPlainText)
 {
     EXPECT_EQ(to_text(Value(std::int16_t{-3})), "-3");
