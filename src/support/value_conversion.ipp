@@ -26,7 +26,7 @@ template <class T> T from_value(Value const& value)
     } else if constexpr (std::is_enum_v<T>) {
         return static_cast<T>(to_i32(to_double(value)));
     } else if constexpr (std::is_same_v<T, float>) {
-        return static_cast<float>(to_double(value));
+        return to_f32(to_double(value));
     } else if constexpr (std::is_same_v<T, double>) {
         return to_double(value);
     } else if constexpr (std::is_same_v<T, std::string>) {

@@ -117,6 +117,13 @@ TEST(FromValue, WholeNumbersAreRoundedHalfToEvenAndChecked)
     EXPECT_EQ(failure_of([] { from_value<std::int32_t>(Value(3e9)); }), FailureKind::Overflow);
 }
 
+TEST(FromValue, ANumberBeyondSinglePrecisionIsAFailure)
+{
+    EXPECT_EQ(from_value<float>(Value(0.1)), 0.1F);
+    EXPECT_EQ(from_value<float>(Value(-3.4e38)), -3.4e38F);
+    EXPECT_EQ(failure_of([] { from_value<float>(Value(1e39)); }), FailureKind::Overflow);
+}
+
 TEST(FromValue, ABooleanWordKeepsItsWord)
 {
     EXPECT_EQ(from_value<BooleanWord>(Value(std::int16_t{5})).word, 5);
