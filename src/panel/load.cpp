@@ -45,6 +45,12 @@ bool lets_pass(std::int32_t bound_x, std::int32_t bound_y, std::int32_t bound_Z)
     return bound_x == bound_y || bound_Z == bound_y;
 }
 
+// In 16 bits as its operands are, and so with a failure where a step leaves them: 0 to 32767 is one site too many.
+std::int16_t count_of_sites(std::int16_t lower, std::int16_t upper)
+{
+    return to_i16(to_i16(upper - lower) + 1);
+}
+
 void store_sites(panel& record, Array const& x, Array const& y, Array const& Z, std::int16_t lower, std::int16_t upper)
 {
     for (std::int16_t i = lower; i <= upper; count_on(i))
@@ -62,7 +68,7 @@ LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Ar
 
     PlotLimits const limits(record, keep_limits);
     record.reset();
-    record.SetNop(static_cast<double>(upper) - lower + 1);
+    record.SetNop(count_of_sites(lower, upper));
     store_sites(record, x, y, Z, lower, upper);
     record.MaxMin();
     limits.give_back(record);

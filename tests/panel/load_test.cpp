@@ -175,13 +175,26 @@ TEST(LoadArrays, ALastIndexOf32767StoresAllSitesAndFailsWithoutStatistics)
     EXPECT_EQ(record.maxi, 0);
 }
 
-TEST(LoadArrays, ArraysFrom0To32767StoreWhatSiteNumbersReachAndFail)
+TEST(LoadArrays, ACountOfSitesBeyond16BitsFailsAfterTheOldDataAreGone)
+{
+    for (auto const& [lower, upper] : {std::pair{0, 32767}, {-1, 32766}, {-20000, 20000}, {-32768, 32767}}) {
+        panel record;
+        load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 7), false);
+        Array const x = counted(lower, upper, 1);
+        EXPECT_EQ(load_arrays(record, x, x, x, false), LoadResult::RunTimeFailure) << lower;
+        EXPECT_EQ(record.GetNop(), 0) << lower;
+        EXPECT_EQ(record.maxi, 8) << lower;
+    }
+}
+
+TEST(LoadArrays, TheLargestCountIsTakenWhereTheCounterDoesNotPassItsEnd)
 {
     panel record;
-    Array const x = counted(0, 32767, 1);
-    EXPECT_EQ(load_arrays(record, x, x, x, false), LoadResult::RunTimeFailure);
-    EXPECT_EQ(record.GetNop(), 32768);
-    EXPECT_EQ(value_of(record, 32767), 32767);
+    Array zeros;
+    zeros.redim(-1, 32765);
+    EXPECT_EQ(load_arrays(sized(record), zeros, zeros, counted(-1, 32765, 1), false), LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 32767);
+    EXPECT_EQ(record.maxi, 32767);
 }
 
 TEST(LoadArrays, KeptLimitsOutliveNewData)
