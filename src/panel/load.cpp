@@ -5,6 +5,7 @@
 #include "zendara/support/trap.hpp"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -75,12 +76,17 @@ LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Ar
     return LoadResult::Done;
 }
 
+[[noreturn]] void fail_with_last_error(std::string const& path)
+{
+    throw Failure(FailureKind::FileError, path + ": " + std::strerror(errno));
+}
+
 File open_for_reading_and_writing(std::string const& path)
 {
     // Appending is the mode that creates a missing file and never cuts one that exists.
     File file(std::fopen(path.c_str(), "a+b"));
     if (file == nullptr)
-        fail(FailureKind::FileError, "the data file cannot be opened");
+        fail_with_last_error(path);
     std::rewind(file.get());
     return file;
 }
@@ -97,10 +103,12 @@ double from_little_endian(unsigned char const* bytes)
 }
 
 // What the file lacks stays 0.
-void read_values(std::FILE* file, std::span<double> values)
+void read_values(File const& file, std::string const& path, std::span<double> values)
 {
     std::vector<unsigned char> bytes(8 * values.size());
-    std::size_t const count = std::fread(bytes.data(), 8, values.size(), file);
+    std::size_t const count = std::fread(bytes.data(), 8, values.size(), file.get());
+    if (std::ferror(file.get()) != 0)
+        fail_with_last_error(path);
     for (std::size_t i = 0; i < count; ++i)
         values[i] = from_little_endian(&bytes[8 * i]);
 }
@@ -115,7 +123,7 @@ SiteColumns read_columns(std::string const& path, double nops)
 
     File const file = open_for_reading_and_writing(path);
     for (Array* const column : {&columns.x, &columns.y, &columns.Z})
-        read_values(file.get(), column->values());
+        read_values(file, path, column->values());
     return columns;
 }
 

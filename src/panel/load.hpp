@@ -18,7 +18,8 @@ LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<doub
                        HostArray<double> const& Z, bool keep_limits);
 
 /// Loads a panel's sites from a raw data file: `nops` x values, then as many y values and Z values, little-endian
-/// 64-bit floats. A file that is missing is created, empty; what a short file lacks is 0.
+/// 64-bit floats. A file that is missing is created, empty; what a short file lacks is 0, but a file that cannot be
+/// read ends the load.
 /// @param keep_limits  the panel's plot limits outlive the load
 LoadResult load_file(panel& record, std::string const& datafile, double nops, bool keep_limits);
 

@@ -1,3 +1,4 @@
+#include "listening_container.hpp"
 #include "zendara/panel/load.hpp"
 #include "zendara/panel/panel.hpp"
 
@@ -270,6 +271,24 @@ TEST_F(LoadFile, APathThatCannotBeOpenedEndsWith4AfterTheOldDataAreGone)
         EXPECT_EQ(value_of(record, 1), 0);
     }
     EXPECT_EQ(record.maxi, 6);
+}
+
+TEST_F(LoadFile, AFileThatOpensButCannotBeReadEndsWith4AndNotWithZeros)
+{
+    std::string const unreadable = "/proc/self/mem"; // nothing is mapped where it begins
+    if (!std::filesystem::exists(unreadable))
+        GTEST_SKIP() << "no " << unreadable;
+    test::ListeningContainer container;
+    panel record;
+    load_file(record, write("six.dat", six_values()), 2, false);
+    record.container = &container;
+    EXPECT_EQ(load_file(record, unreadable, 3, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 3);
+    EXPECT_FALSE(record.FW_NUll);
+    EXPECT_EQ(record.maxi, 6);
+    ASSERT_EQ(container.failures.size(), 1u);
+    EXPECT_EQ(container.failures[0].kind, FailureKind::FileError);
+    EXPECT_EQ(container.failures[0].what.substr(0, unreadable.size() + 2), unreadable + ": ");
 }
 
 TEST_F(LoadFile, ANegativeCountFailsBeforeAFileIsMade)
