@@ -19,6 +19,12 @@ namespace
 
 using Array = HostArray<double>;
 
+// The last site of so many that a 16-bit site number reaches.
+std::int32_t reachable_sites(double nop)
+{
+    return std::min<std::int32_t>(to_i32(nop), std::numeric_limits<std::int16_t>::max());
+}
+
 struct SiteColumns {
     Array x, y, Z;
 };
@@ -117,9 +123,8 @@ SiteColumns read_columns(std::string const& path, double nops)
 {
     SiteColumns columns;
     // A count beyond 16 bits fails before any value is used, so there is no need to read so many.
-    std::int32_t const count = std::min<std::int32_t>(to_i32(nops), std::numeric_limits<std::int16_t>::max());
     for (Array* const column : {&columns.x, &columns.y, &columns.Z})
-        column->redim(1, count);
+        column->redim(1, reachable_sites(nops));
 
     File const file = open_for_reading_and_writing(path);
     for (Array* const column : {&columns.x, &columns.y, &columns.Z})
@@ -158,9 +163,8 @@ double read_sites(panel const& record, HostArray<double>& x, HostArray<double>& 
     if (!(nop > 0))
         return nop;
 
-    std::int32_t const upper = to_i32(nop);
     for (Array* const column : {&x, &y, &Z})
-        column->redim(1, upper);
+        column->redim(1, reachable_sites(nop));
     Array position(1, {0.0, 0.0});
     for (std::int16_t i = 1; i <= nop; count_on(i)) {
         Z(i) = record.GetGridValue(i, position);

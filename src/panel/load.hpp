@@ -25,7 +25,7 @@ LoadResult load_file(panel& record, std::string const& datafile, double nops, bo
 
 /// Reads the sites out.
 /// @return  their number; the arrays get the bounds 1 to that number, or stay as they are when it is 0
-/// @throws Failure  Overflow with 32767 sites or more, where the 16-bit counter passes its end
+/// @throws Failure  Overflow with 32767 sites or more, where the 16-bit counter passes its end; so many are read out
 double read_sites(panel const& record, HostArray<double>& x, HostArray<double>& y, HostArray<double>& Z);
 
 /// Moves a panel's scale limits.

@@ -1,4 +1,5 @@
 #include "listening_container.hpp"
+#include "support/failure_kind.hpp"
 #include "zendara/panel/load.hpp"
 #include "zendara/panel/panel.hpp"
 
@@ -6,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -358,14 +358,47 @@ TEST(ReadSites, TheCounterOverflowsBehindSite32767)
     record.SetNop(32767);
     record.SetGridValueD(32767, 1, 2, 3);
     Array x, y, Z;
-    std::optional<FailureKind> kind;
-    try {
-        read_sites(record, x, y, Z);
-    } catch (Failure const& failure) {
-        kind = failure.kind();
-    }
-    EXPECT_EQ(kind, FailureKind::Overflow);
+    EXPECT_EQ(failure_of([&] { read_sites(record, x, y, Z); }), FailureKind::Overflow);
     EXPECT_EQ(Z(32767), 3);
+}
+
+TEST(ReadSites, OfAPanelSizedBeyondAllSiteNumbersThoseThatAreThereAreReadOut)
+{
+    for (double const count : {32768.0, 1e9}) {
+        panel record;
+        record.SetNop(count);
+        record.SetGridValueD(32767, 1, 2, 3);
+        Array x, y, Z;
+        EXPECT_EQ(failure_of([&] { read_sites(record, x, y, Z); }), FailureKind::Overflow) << count;
+        for (Array const* const column : {&x, &y, &Z}) {
+            ASSERT_EQ(column->lower_bound(), 1) << count;
+            ASSERT_EQ(column->upper_bound(), 32767) << count;
+        }
+        EXPECT_EQ(x(32767), 1);
+        EXPECT_EQ(y(32767), 2);
+        EXPECT_EQ(Z(32767), 3);
+    }
+}
+
+TEST(ReadSites, ACountBeyond32BitsFailsAndLeavesTheArrays)
+{
+    panel record;
+    EXPECT_EQ(failure_of([&] { record.SetNop(1e10); }), FailureKind::Overflow);
+    Array x(3, {1}), y, Z;
+    EXPECT_EQ(failure_of([&] { read_sites(record, x, y, Z); }), FailureKind::Overflow);
+    EXPECT_EQ(x(3), 1);
+}
+
+TEST(ReadSites, ACountThatIsNoWholeNumberIsReadAsFarAsItGoes)
+{
+    panel record;
+    record.SetNop(2.5);
+    record.SetGridValue(1, 2, 3);
+    record.SetGridValue(4, 5, 6);
+    Array x, y, Z;
+    EXPECT_EQ(read_sites(record, x, y, Z), 2.5);
+    EXPECT_EQ(Z.upper_bound(), 2);
+    EXPECT_EQ(Z(2), 6);
 }
 
 } // namespace
