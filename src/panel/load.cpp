@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -58,10 +59,28 @@ std::int16_t count_of_sites(std::int16_t lower, std::int16_t upper)
     return to_i16(to_i16(upper - lower) + 1);
 }
 
+[[noreturn]] void fail_with_coordinate(char axis, std::int16_t index, double value)
+{
+    throw Failure(FailureKind::Overflow,
+                  std::string(1, axis) + '(' + std::to_string(index) + ") is no finite number: " + shown(value));
+}
+
+// The table of sites takes no other coordinates, and below 10 sites there is no table that would say so.
+double finite_coordinate(Array const& column, char axis, std::int16_t index)
+{
+    double const value = column(index);
+    if (!std::isfinite(value))
+        fail_with_coordinate(axis, index, value);
+    return value;
+}
+
 void store_sites(panel& record, Array const& x, Array const& y, Array const& Z, std::int16_t lower, std::int16_t upper)
 {
-    for (std::int16_t i = lower; i <= upper; count_on(i))
-        record.SetGridValue(x(i), y(i), Z(i));
+    for (std::int16_t i = lower; i <= upper; count_on(i)) {
+        double const site_x = finite_coordinate(x, 'x', i);
+        double const site_y = finite_coordinate(y, 'y', i);
+        record.SetGridValue(site_x, site_y, Z(i));
+    }
 }
 
 LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Array const& Z, bool keep_limits)

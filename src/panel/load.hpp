@@ -13,7 +13,7 @@ enum class LoadResult : std::int16_t { Done = 0, UpperBoundsDiffer = 1, LowerBou
 
 /// Loads a panel's sites from three arrays of one element per site.
 /// @param keep_limits  the panel's plot limits outlive the load
-/// @return  anything but RunTimeFailure: the load ended normally
+/// @return  anything but RunTimeFailure: the load ended normally. A coordinate that is infinite or no number ends it
 LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<double> const& y,
                        HostArray<double> const& Z, bool keep_limits);
 

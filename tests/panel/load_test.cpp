@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +18,9 @@ namespace
 {
 
 using Array = HostArray<double>;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 Array counted(std::int32_t lower, std::int32_t upper, double first)
 {
@@ -198,6 +202,37 @@ TEST(LoadArrays, TheLargestCountIsTakenWhereTheCounterDoesNotPassItsEnd)
     EXPECT_EQ(record.maxi, 32767);
 }
 
+TEST(LoadArrays, ACoordinateThatIsNotFiniteEndsWith4WhateverTheCountOfSites)
+{
+    for (std::int32_t const count : {1, 3, 9, 10, 40})
+        for (double const wrong : {infinity, -infinity, nan})
+            for (bool const is_x : {true, false}) {
+                panel record;
+                Array x = counted(1, count, 0), y = counted(1, count, 0);
+                (is_x ? x : y)(count) = wrong;
+                EXPECT_EQ(load_arrays(sized(record), x, y, counted(1, count, 7), false), LoadResult::RunTimeFailure)
+                    << count << ' ' << wrong << ' ' << is_x;
+                EXPECT_EQ(record.GetNop(), count);
+                EXPECT_EQ(record.maxi, 0);
+            }
+}
+
+TEST(LoadArrays, ACoordinateThatIsNotFiniteEndsTheLoadAtItsSite)
+{
+    test::ListeningContainer container;
+    panel record;
+    record.container = &container;
+    Array x = counted(0, 4, 1), y = counted(0, 4, 1), Z = counted(0, 4, 7);
+    y(2) = -infinity;
+    x(3) = nan;
+    EXPECT_EQ(load_arrays(record, x, y, Z, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(value_of(record, 2), 8);
+    EXPECT_EQ(value_of(record, 3), 0);
+    ASSERT_EQ(container.failures.size(), 1u);
+    EXPECT_EQ(container.failures[0].kind, FailureKind::Overflow);
+    EXPECT_EQ(container.failures[0].what, "y(2) is no finite number: -inf");
+}
+
 TEST(LoadArrays, KeptLimitsOutliveNewData)
 {
     panel record;
@@ -317,6 +352,17 @@ TEST_F(LoadFile, ACountBeyond16BitsFailsWithTheFileMadeAndNoSiteStored)
     EXPECT_TRUE(std::filesystem::exists(path("new.dat")));
     EXPECT_EQ(record.GetNop(), 1e9);
     EXPECT_FALSE(record.FW_NUll);
+}
+
+TEST_F(LoadFile, ACoordinateThatIsNotFiniteEndsWith4AtItsSite)
+{
+    std::string bytes = six_values();
+    bytes.replace(3 * 8 + 6, 2, "\xf0\x7f"); // y of the second site becomes infinite
+    panel record;
+    EXPECT_EQ(load_file(record, write("infinite.dat", bytes), 2, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(value_of(record, 1), 5);
+    EXPECT_EQ(value_of(record, 2), 0);
+    EXPECT_EQ(record.maxi, 0);
 }
 
 TEST_F(LoadFile, KeptLimitsOutliveNewData)

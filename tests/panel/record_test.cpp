@@ -157,6 +157,15 @@ TEST(SetGridValue, TheBorder1em15ItselfIsARealValue)
     EXPECT_EQ(record.FW_Negativ.word, -1);
 }
 
+TEST(SetGridValue, TakesCoordinatesThatAreNotFinite)
+{
+    panel record;
+    record.SetNop(1);
+    record.SetGridValue(std::numeric_limits<double>::infinity(), nan, 3);
+    EXPECT_EQ(site(record, 1).x, std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(site(record, 1).y));
+}
+
 TEST(SetGridValueD, FillsItsSiteAndLeavesTheNextOneToSetGridValue)
 {
     panel record;
