@@ -19,6 +19,7 @@ namespace
 {
 
 using Array = HostArray<double>;
+using View = HostArrayView<double>;
 
 // The last site of so many that a 16-bit site number reaches.
 std::int32_t reachable_sites(double nop)
@@ -28,6 +29,11 @@ std::int32_t reachable_sites(double nop)
 
 struct SiteColumns {
     Array x, y, Z;
+};
+
+// Three columns that somebody else holds.
+struct SiteViews {
+    View x, y, Z;
 };
 
 // Gives a panel's plot limits back after new data have replaced them.
@@ -66,7 +72,7 @@ std::int16_t count_of_sites(std::int16_t lower, std::int16_t upper)
 }
 
 // The table of sites takes no other coordinates, and below 10 sites there is no table that would say so.
-double finite_coordinate(Array const& column, char axis, std::int16_t index)
+double finite_coordinate(View const& column, char axis, std::int16_t index)
 {
     double const value = column(index);
     if (!std::isfinite(value))
@@ -74,17 +80,18 @@ double finite_coordinate(Array const& column, char axis, std::int16_t index)
     return value;
 }
 
-void store_sites(panel& record, Array const& x, Array const& y, Array const& Z, std::int16_t lower, std::int16_t upper)
+void store_sites(panel& record, SiteViews const& sites, std::int16_t lower, std::int16_t upper)
 {
     for (std::int16_t i = lower; i <= upper; count_on(i)) {
-        double const site_x = finite_coordinate(x, 'x', i);
-        double const site_y = finite_coordinate(y, 'y', i);
-        record.SetGridValue(site_x, site_y, Z(i));
+        double const x = finite_coordinate(sites.x, 'x', i);
+        double const y = finite_coordinate(sites.y, 'y', i);
+        record.SetGridValue(x, y, sites.Z(i));
     }
 }
 
-LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Array const& Z, bool keep_limits)
+LoadResult load_checked_arrays(panel& record, SiteViews const& sites, bool keep_limits)
 {
+    auto const& [x, y, Z] = sites;
     if (!lets_pass(x.upper_bound(), y.upper_bound(), Z.upper_bound()))
         return LoadResult::UpperBoundsDiffer;
     std::int16_t const upper = to_i16(x.upper_bound());
@@ -95,7 +102,7 @@ LoadResult load_checked_arrays(panel& record, Array const& x, Array const& y, Ar
     PlotLimits const limits(record, keep_limits);
     record.reset();
     record.SetNop(count_of_sites(lower, upper));
-    store_sites(record, x, y, Z, lower, upper);
+    store_sites(record, sites, lower, upper);
     record.MaxMin();
     limits.give_back(record);
     return LoadResult::Done;
@@ -153,12 +160,13 @@ SiteColumns read_columns(std::string const& path, double nops)
 
 } // namespace
 
-LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<double> const& y,
-                       HostArray<double> const& Z, bool keep_limits)
+LoadResult load_arrays(panel& record, HostArrayView<double> x, HostArrayView<double> y, HostArrayView<double> Z,
+                       bool keep_limits)
 {
     LoadResult result = LoadResult::RunTimeFailure;
-    trap({record.container, record, "SetPanelData", "load"},
-         [&] { result = load_checked_arrays(record, x, y, Z, keep_limits); });
+    trap({record.container, record, "SetPanelData", "load"}, [&] {
+        result = load_checked_arrays(record, {x, y, Z}, keep_limits);
+    });
     return result;
 }
 
@@ -169,7 +177,7 @@ LoadResult load_file(panel& record, std::string const& datafile, double nops, bo
         record.reset();
         record.SetNop(nops);
         SiteColumns const columns = read_columns(datafile, nops);
-        store_sites(record, columns.x, columns.y, columns.Z, 1, to_i16(nops));
+        store_sites(record, {columns.x, columns.y, columns.Z}, 1, to_i16(nops));
         record.MaxMin();
         limits.give_back(record);
     });

@@ -11,11 +11,12 @@ namespace zendara
 /// How a load ended, as hosts get it.
 enum class LoadResult : std::int16_t { Done = 0, UpperBoundsDiffer = 1, LowerBoundsDiffer = 2, RunTimeFailure = 4 };
 
-/// Loads a panel's sites from three arrays of one element per site.
+/// Loads a panel's sites from three arrays of one element per site: host arrays, or anything that is a span of doubles,
+/// which counts from 0.
 /// @param keep_limits  the panel's plot limits outlive the load
 /// @return  anything but RunTimeFailure: the load ended normally. A coordinate that is infinite or no number ends it
-LoadResult load_arrays(panel& record, HostArray<double> const& x, HostArray<double> const& y,
-                       HostArray<double> const& Z, bool keep_limits);
+LoadResult load_arrays(panel& record, HostArrayView<double> x, HostArrayView<double> y, HostArrayView<double> Z,
+                       bool keep_limits);
 
 /// Loads a panel's sites from a raw data file: `nops` x values, then as many y values and Z values, little-endian
 /// 64-bit floats. A file that is missing is created, empty; what a short file lacks is 0, but a file that cannot be

@@ -5,9 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -231,6 +233,43 @@ TEST(LoadArrays, ACoordinateThatIsNotFiniteEndsTheLoadAtItsSite)
     ASSERT_EQ(container.failures.size(), 1u);
     EXPECT_EQ(container.failures[0].kind, FailureKind::Overflow);
     EXPECT_EQ(container.failures[0].what, "y(2) is no finite number: -inf");
+}
+
+TEST(LoadArrays, AYThatDiffersFromBothOthersEndsWith1)
+{
+    panel record;
+    EXPECT_EQ(load_arrays(record, counted(1, 5, 1), counted(1, 7, 1), counted(1, 5, 7), false),
+              LoadResult::UpperBoundsDiffer);
+    EXPECT_EQ(load_arrays(record, counted(1, 5, 1), counted(0, 5, 1), counted(1, 5, 7), false),
+              LoadResult::LowerBoundsDiffer);
+    EXPECT_EQ(record.GetNop(), 0);
+}
+
+TEST(LoadArrays, SpansCountFrom0AndGiveWhatHostArraysGive)
+{
+    std::vector<double> const x = {1, 2, 3}, y = {4, 5, 6};
+    std::array<double, 4> Z = {7, 8, 9, 10};
+    panel record;
+    EXPECT_EQ(load_arrays(record, x, std::span(y), std::span(Z).first(3), false), LoadResult::Done);
+    EXPECT_EQ(record.GetNop(), 3);
+    Array position(1, {0, 0});
+    EXPECT_EQ(record.GetGridValue(3, position), 9);
+    EXPECT_EQ(position(1), 3);
+    EXPECT_EQ(position(2), 6);
+    EXPECT_EQ(record.maxi, 9);
+
+    EXPECT_EQ(load_arrays(record, x, y, Z, false), LoadResult::Done) << "a longer Z has an equal pair before it";
+    EXPECT_EQ(load_arrays(record, x, Z, y, false), LoadResult::UpperBoundsDiffer);
+    EXPECT_EQ(load_arrays(record, Z, x, y, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 4);
+}
+
+TEST(LoadArrays, EmptySpansFailAsEmptyArraysDo)
+{
+    panel record;
+    std::span<double const> const none;
+    EXPECT_EQ(load_arrays(record, none, none, none, false), LoadResult::RunTimeFailure);
+    EXPECT_EQ(record.GetNop(), 0);
 }
 
 TEST(LoadArrays, KeptLimitsOutliveNewData)

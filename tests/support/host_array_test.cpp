@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <span>
+#include <vector>
 
 using namespace zendara;
 
@@ -82,6 +84,56 @@ TEST(HostArray, RedimFurtherBelowIsAFailureAndKeepsTheArray)
     EXPECT_EQ(failure_of([&] { array.redim(1, -1); }), FailureKind::SubscriptOutOfRange);
     EXPECT_EQ(failure_of([&] { array.redim(highest, lowest); }), FailureKind::SubscriptOutOfRange);
     EXPECT_EQ(array(1), 2);
+}
+
+TEST(HostArray, AnIndexIsNotCutTo32BitsBeforeItIsChecked)
+{
+    HostArray<double> const array(highest, {1, 2, 3});
+    EXPECT_EQ(failure_of([&] { array(lowest); }), FailureKind::SubscriptOutOfRange);
+    EXPECT_EQ(failure_of([&] { array(lowest + 1); }), FailureKind::SubscriptOutOfRange);
+}
+
+TEST(HostArray, AnUpperBoundBeyond32BitsIsAFailure)
+{
+    HostArray<double> const above(highest, {1, 2}), below(lowest, {});
+    EXPECT_EQ(failure_of([&] { above.upper_bound(); }), FailureKind::Overflow);
+    EXPECT_EQ(failure_of([&] { below.upper_bound(); }), FailureKind::Overflow);
+    EXPECT_EQ(HostArray<double>(lowest, {1}).upper_bound(), lowest);
+}
+
+TEST(HostArrayView, HasTheBoundsAndTheElementsOfItsArray)
+{
+    HostArray<double> array(-1, {10, 20, 30});
+    HostArrayView<double> const view = array;
+    EXPECT_EQ(view.lower_bound(), -1);
+    EXPECT_EQ(view.upper_bound(), 1);
+    array(1) = 31;
+    EXPECT_EQ(view(1), 31);
+    EXPECT_EQ(view.values().size(), 3u);
+    EXPECT_EQ(failure_of([&] { view(2); }), FailureKind::SubscriptOutOfRange);
+}
+
+TEST(HostArrayView, OfAnArrayWithoutBoundsHasNone)
+{
+    HostArray<double> const array;
+    HostArrayView<double> const view = array;
+    EXPECT_EQ(failure_of([&] { view.lower_bound(); }), FailureKind::SubscriptOutOfRange);
+    EXPECT_EQ(failure_of([&] { view.upper_bound(); }), FailureKind::SubscriptOutOfRange);
+    EXPECT_EQ(failure_of([&] { view(0); }), FailureKind::SubscriptOutOfRange);
+}
+
+TEST(HostArrayView, ValuesAloneCountFrom0)
+{
+    std::vector<double> values = {1, 2};
+    for (HostArrayView<double> const& view : {HostArrayView<double>(values), HostArrayView<double>(std::span(values)),
+                                              HostArrayView<double>(std::span<double const>(values))}) {
+        EXPECT_EQ(view.lower_bound(), 0);
+        EXPECT_EQ(view.upper_bound(), 1);
+        EXPECT_EQ(view(1), 2);
+    }
+    HostArrayView<double> const counted(5, values);
+    EXPECT_EQ(counted(6), 2);
+    EXPECT_EQ(counted.lower_bound(), 5);
 }
 
 TEST(HostArray, AFailureNamesTheIndexOrTheBoundThatWasWrong)
