@@ -81,7 +81,7 @@ class StepByStep
 public:
     StepByStep(panel const& record, double x, double y) : record_(record), sites_(record), x_(x), y_(y)
     {
-        step("size", [&] { scale_ = finite(record.SizeX + record.SizeY); });
+        step("size of the panel", [&] { scale_ = finite(record.SizeX + record.SizeY); });
         step("first distances", [&] { slots_.distance.fill(finite(4 * scale_)); });
         slots_.site.fill(1);
     }
@@ -107,8 +107,8 @@ private:
     void find_centre()
     {
         double cells_x = 0, cells_y = 0;
-        step("cells", [&] { cells_x = divide(x_, sites_.pitch()); });
-        step("cells", [&] { cells_y = divide(y_, sites_.pitch()); });
+        step("x in cells", [&] { cells_x = divide(x_, sites_.pitch()); });
+        step("y in cells", [&] { cells_y = divide(y_, sites_.pitch()); });
         step("centre cell", [&] { centre_i_ = to_i16(cells_x + sites_.half()); });
         step("centre cell", [&] { centre_j_ = to_i16(cells_y + sites_.half()); });
         radius_ = std::min(distance_to_whole(cells_x), distance_to_whole(cells_y));

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace zendara
@@ -36,20 +37,40 @@ struct SiteViews {
     View x, y, Z;
 };
 
-// Gives a panel's plot limits back after new data have replaced them.
-class PlotLimits
+// The indices of the sites in their columns, both inclusive.
+struct Bounds {
+    std::int16_t lower = 1, upper = 0;
+};
+
+// One load, step by step, each under a trap of its own name: a step that fails ends the load.
+class Load
 {
 public:
-    PlotLimits(panel const& record, bool keep) : keep_(keep), maximal_(record.maximal), minimal_(record.minimal) {}
-
-    void give_back(panel& record) const
+    Load(panel& record, char const* routine, bool keep_limits)
+        : record_(record), routine_(routine), keep_limits_(keep_limits), maximal_(record.maximal),
+          minimal_(record.minimal)
     {
-        if (keep_)
-            record.setMaximalMinial(maximal_, minimal_);
+    }
+
+    template <class Step> bool runs(char const* name, Step&& step)
+    {
+        return trap({record_.container, record_, routine_, name}, std::forward<Step>(step));
+    }
+
+    // What is left when all sites are stored. Plot limits outlive the old data.
+    LoadResult finish()
+    {
+        bool const is_done = runs("statistics", [&] { record_.MaxMin(); }) &&
+                             (!keep_limits_ || runs("plot limits", [&] { give_limits_back(); }));
+        return is_done ? LoadResult::Done : LoadResult::RunTimeFailure;
     }
 
 private:
-    bool keep_;
+    void give_limits_back() { record_.setMaximalMinial(maximal_, minimal_); }
+
+    panel& record_;
+    char const* routine_;
+    bool keep_limits_;
     double maximal_, minimal_;
 };
 
@@ -59,10 +80,22 @@ bool lets_pass(std::int32_t bound_x, std::int32_t bound_y, std::int32_t bound_Z)
     return bound_x == bound_y || bound_Z == bound_y;
 }
 
-// In 16 bits as its operands are, and so with a failure where a step leaves them: 0 to 32767 is one site too many.
-std::int16_t count_of_sites(std::int16_t lower, std::int16_t upper)
+LoadResult compare_bounds(SiteViews const& sites, Bounds& bounds)
 {
-    return to_i16(to_i16(upper - lower) + 1);
+    auto const& [x, y, Z] = sites;
+    if (!lets_pass(x.upper_bound(), y.upper_bound(), Z.upper_bound()))
+        return LoadResult::UpperBoundsDiffer;
+    bounds.upper = to_i16(x.upper_bound());
+    if (!lets_pass(x.lower_bound(), y.lower_bound(), Z.lower_bound()))
+        return LoadResult::LowerBoundsDiffer;
+    bounds.lower = to_i16(x.lower_bound());
+    return LoadResult::Done;
+}
+
+// In 16 bits as its operands are, and so with a failure where a step leaves them: 0 to 32767 is one site too many.
+std::int16_t count_of_sites(Bounds const& bounds)
+{
+    return to_i16(to_i16(bounds.upper - bounds.lower) + 1);
 }
 
 [[noreturn]] void fail_with_coordinate(char axis, std::int16_t index, double value)
@@ -80,32 +113,13 @@ double finite_coordinate(View const& column, char axis, std::int16_t index)
     return value;
 }
 
-void store_sites(panel& record, SiteViews const& sites, std::int16_t lower, std::int16_t upper)
+void store_sites(panel& record, SiteViews const& sites, Bounds const& bounds)
 {
-    for (std::int16_t i = lower; i <= upper; count_on(i)) {
+    for (std::int16_t i = bounds.lower; i <= bounds.upper; count_on(i)) {
         double const x = finite_coordinate(sites.x, 'x', i);
         double const y = finite_coordinate(sites.y, 'y', i);
         record.SetGridValue(x, y, sites.Z(i));
     }
-}
-
-LoadResult load_checked_arrays(panel& record, SiteViews const& sites, bool keep_limits)
-{
-    auto const& [x, y, Z] = sites;
-    if (!lets_pass(x.upper_bound(), y.upper_bound(), Z.upper_bound()))
-        return LoadResult::UpperBoundsDiffer;
-    std::int16_t const upper = to_i16(x.upper_bound());
-    if (!lets_pass(x.lower_bound(), y.lower_bound(), Z.lower_bound()))
-        return LoadResult::LowerBoundsDiffer;
-    std::int16_t const lower = to_i16(x.lower_bound());
-
-    PlotLimits const limits(record, keep_limits);
-    record.reset();
-    record.SetNop(count_of_sites(lower, upper));
-    store_sites(record, sites, lower, upper);
-    record.MaxMin();
-    limits.give_back(record);
-    return LoadResult::Done;
 }
 
 [[noreturn]] void fail_with_last_error(std::string const& path)
@@ -163,25 +177,33 @@ SiteColumns read_columns(std::string const& path, double nops)
 LoadResult load_arrays(panel& record, HostArrayView<double> x, HostArrayView<double> y, HostArrayView<double> Z,
                        bool keep_limits)
 {
-    LoadResult result = LoadResult::RunTimeFailure;
-    trap({record.container, record, "SetPanelData", "load"}, [&] {
-        result = load_checked_arrays(record, {x, y, Z}, keep_limits);
-    });
-    return result;
+    SiteViews const sites{x, y, Z};
+    Bounds bounds;
+    Load load(record, "SetPanelData", keep_limits);
+
+    LoadResult compared = LoadResult::RunTimeFailure;
+    load.runs("bounds", [&] { compared = compare_bounds(sites, bounds); });
+    if (compared != LoadResult::Done)
+        return compared;
+
+    record.reset();
+    bool const is_stored = load.runs("count of sites", [&] { record.SetNop(count_of_sites(bounds)); }) &&
+                           load.runs("sites", [&] { store_sites(record, sites, bounds); });
+    return is_stored ? load.finish() : LoadResult::RunTimeFailure;
 }
 
 LoadResult load_file(panel& record, std::string const& datafile, double nops, bool keep_limits)
 {
-    bool const is_done = trap({record.container, record, "SetDataFile", "load"}, [&] {
-        PlotLimits const limits(record, keep_limits);
-        record.reset();
-        record.SetNop(nops);
-        SiteColumns const columns = read_columns(datafile, nops);
-        store_sites(record, {columns.x, columns.y, columns.Z}, 1, to_i16(nops));
-        record.MaxMin();
-        limits.give_back(record);
-    });
-    return is_done ? LoadResult::Done : LoadResult::RunTimeFailure;
+    SiteColumns columns;
+    Load load(record, "SetDataFile", keep_limits);
+
+    record.reset();
+    bool const is_stored = load.runs("count of sites", [&] { record.SetNop(nops); }) &&
+                           load.runs("data file", [&] { columns = read_columns(datafile, nops); }) &&
+                           load.runs("sites", [&] {
+                               store_sites(record, {columns.x, columns.y, columns.Z}, {1, to_i16(nops)});
+                           });
+    return is_stored ? load.finish() : LoadResult::RunTimeFailure;
 }
 
 double read_sites(panel const& record, HostArray<double>& x, HostArray<double>& y, HostArray<double>& Z)

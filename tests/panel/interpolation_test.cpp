@@ -1,11 +1,14 @@
+#include "listening_container.hpp"
 #include "panel/panel_samples.hpp"
 #include "zendara/panel/panel.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -176,6 +179,47 @@ TEST(Interpolation, AnOverflowOfTheMeanGivesZero)
     samples::Site const& site = sample.sites[5];
     EXPECT_EQ(record.Interpolation(site.x + 0.01, site.y), 0);
     EXPECT_EQ(record.Interpolation(site.x, site.y), 8e306);
+}
+
+// What a panel tells its container of one interpolation: the steps that failed, each once, in their order.
+std::vector<std::string> failed_steps(panel& record, double x, double y)
+{
+    test::ListeningContainer container;
+    record.container = &container;
+    record.Interpolation(x, y);
+    record.container = nullptr;
+    std::vector<std::string> steps;
+    for (TrappedFailure const& failure : container.failures)
+        if (std::find(steps.begin(), steps.end(), failure.where) == steps.end())
+            steps.push_back(failure.where);
+    return steps;
+}
+
+TEST(Interpolation, TellsTheContainerWhichStepHasFailed)
+{
+    using Steps = std::vector<std::string>;
+    panel record;
+    samples::fill(record, spread_sites(20));
+    EXPECT_EQ(failed_steps(record, 3, 4), Steps{});
+    EXPECT_EQ(failed_steps(record, 1e9, 4), Steps{"Interpolation: centre cell"});
+    EXPECT_EQ(failed_steps(record, 4, -1e9), Steps{"Interpolation: centre cell"});
+
+    record.SizeX = record.SizeY = 1e308;
+    EXPECT_EQ(failed_steps(record, 3, 4), Steps{"Interpolation: size of the panel"});
+    record.SizeY = 0;
+    EXPECT_EQ(failed_steps(record, 3, 4), Steps{"Interpolation: first distances"});
+
+    samples::fill(record, spread_sites(20));
+    record.reset();
+    record.SetNop(10);
+    EXPECT_EQ(failed_steps(record, 3, 4), Steps{"Interpolation: distance of a site"});
+
+    samples::fill(record, {"far", 1, 1, std::vector<samples::Site>(5, {100, 100, 5})});
+    EXPECT_EQ(failed_steps(record, 0, 0), Steps{"Interpolation: scan of all sites"});
+
+    panel unbuilt;
+    samples::store(unbuilt, spread_sites(12));
+    EXPECT_EQ(failed_steps(unbuilt, 3, 4), (Steps{"Interpolation: x in cells", "Interpolation: y in cells"}));
 }
 
 TEST(Interpolation, AMovedSiteIsReadAtItsNewPositionFromItsOldCell)

@@ -293,6 +293,40 @@ TEST(LoadArrays, LimitsThatAreNotKeptFollowTheData)
     EXPECT_EQ(record.maximal, 22);
 }
 
+TEST(Load, AFailureTellsItsStepAndTheValueThatWasWrong)
+{
+    auto const told = [](auto&& load) {
+        test::ListeningContainer container;
+        panel record;
+        record.container = &container;
+        EXPECT_EQ(load(record), LoadResult::RunTimeFailure);
+        return container.failures.size() == 1 ? container.failures[0].where + ": " + container.failures[0].what
+                                              : std::to_string(container.failures.size()) + " failures";
+    };
+    auto const told_of_arrays = [&](Array const& x, Array const& Z) {
+        return told([&](panel& record) { return load_arrays(record, x, x, Z, false); });
+    };
+    EXPECT_EQ(told_of_arrays(Array(), Array()), "SetPanelData: bounds: an array has no bounds yet");
+    EXPECT_EQ(told_of_arrays(counted(0, 40000, 1), counted(0, 40000, 1)),
+              "SetPanelData: bounds: a number does not fit into 16 bits: 40000");
+    EXPECT_EQ(told_of_arrays(counted(-20000, 20000, 1), counted(-20000, 20000, 1)),
+              "SetPanelData: count of sites: a number does not fit into 16 bits: 40000");
+    EXPECT_EQ(told_of_arrays(counted(1, 5, 1), counted(1, 3, 1)),
+              "SetPanelData: sites: an index lies outside its array: 4");
+    EXPECT_EQ(told_of_arrays(counted(1, 12, 1), counted(1, 12, 1)),
+              "SetPanelData: statistics: a number is divided by 0: 0");
+    EXPECT_EQ(told([](panel& record) {
+                  record.setMaximalMinial(1e308, 2);
+                  record.minimal = -1e308;
+                  return load_arrays(record, counted(1, 2, 1), counted(1, 2, 1), counted(1, 2, 1), true);
+              }),
+              "SetPanelData: plot limits: the result of a calculation is not finite: inf");
+    EXPECT_EQ(told([](panel& record) { return load_file(record, "", -2, false); }),
+              "SetDataFile: count of sites: an array's upper bound lies below its lower bound: -2");
+    EXPECT_EQ(told([](panel& record) { return load_file(record, "no/such/folder.dat", 2, false); }).substr(0, 41),
+              "SetDataFile: data file: no/such/folder.da");
+}
+
 TEST_F(LoadFile, ReadsTheBlocksOfXThenYThenZInLittleEndianOrder)
 {
     panel record;
