@@ -16,12 +16,6 @@ template <class Half> struct Twin {
         high |= other.high;
         return *this;
     }
-    Twin& operator&=(Twin const& other)
-    {
-        low &= other.low;
-        high &= other.high;
-        return *this;
-    }
 };
 
 template <class Half> Twin<Half> twin(Half const& low, Half const& high)
@@ -137,9 +131,9 @@ template <class Vector> using MaskOf = decltype(std::declval<Vector>() < std::de
 // Two squares whose ratio is beyond this have different roots: it leaves two units in the last place between them.
 constexpr double root_margin = 1 + 0x1p-50;
 
-template <class Vector> MaskOf<Vector> is_finite(Vector const& value)
+template <class Vector> MaskOf<Vector> is_not_finite(Vector const& value)
 {
-    return value - value == all<Vector>(0);
+    return value - value != all<Vector>(0);
 }
 
 template <class Vector> class Slots
@@ -188,7 +182,8 @@ public:
 
     Vector farthest() const { return square_root(square4_); }
 
-    Vector result() const
+    // The mean. A lane where it fails is marked, and the plain search then tells why.
+    Vector result()
     {
         Vector const d1 = square_of_root(square1_), d2 = square_of_root(square2_);
         Vector const d3 = square_of_root(square3_), d4 = square_of_root(square4_);
@@ -196,10 +191,11 @@ public:
         Vector const shares = value1_ / d1 + value2_ / d2 + value3_ / d3 + value4_ / d4;
         Vector const weights = one / d1 + one / d2 + one / d3 + one / d4;
         Vector const mean = shares / weights;
-        Mask is_sound = is_finite(shares);
-        is_sound &= is_finite(weights);
-        is_sound &= is_finite(mean);
-        return choose(square1_ == all<Vector>(0), value1_, choose(is_sound, mean, all<Vector>(0)));
+        Mask has_failed = is_not_finite(shares);
+        has_failed |= is_not_finite(weights);
+        has_failed |= is_not_finite(mean);
+        needs_plain_ |= has_failed & (square1_ != all<Vector>(0));
+        return choose(square1_ == all<Vector>(0), value1_, mean);
     }
 
     Mask needs_plain() const
@@ -256,7 +252,7 @@ public:
         }
     }
 
-    void store_result(double* z, double* needs_plain) const
+    void store_result(double* z, double* needs_plain)
     {
         store(z, slots_.result());
         store(needs_plain, choose(slots_.needs_plain(), all<Vector>(1), all<Vector>(0)));

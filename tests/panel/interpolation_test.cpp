@@ -209,7 +209,14 @@ TEST(Interpolation, TellsTheContainerWhichStepHasFailed)
     record.SizeY = 0;
     EXPECT_EQ(failed_steps(record, 3, 4), Steps{"Interpolation: first distances"});
 
-    samples::fill(record, spread_sites(20));
+    samples::Sample sample = spread_sites(20);
+    for (samples::Site& site : sample.sites)
+        site.Z = 8e306;
+    samples::fill(record, sample);
+    EXPECT_EQ(failed_steps(record, sample.sites[5].x + 0.01, sample.sites[5].y),
+              Steps{"Interpolation: mean of four sites"});
+    EXPECT_EQ(failed_steps(record, sample.sites[5].x, sample.sites[5].y), Steps{});
+
     record.reset();
     record.SetNop(10);
     EXPECT_EQ(failed_steps(record, 3, 4), Steps{"Interpolation: distance of a site"});
