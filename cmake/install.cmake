@@ -9,8 +9,11 @@ set(zendara_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZendaraView)
 install(TARGETS zendara_core EXPORT ZendaraViewCoreTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT core)
 install(EXPORT ZendaraViewCoreTargets NAMESPACE zendara:: DESTINATION ${zendara_package_dir} COMPONENT core)
 foreach(folder support render panel form print dialogs controls)
+    # The headers of the interpolation's kernels are for the sources beside them alone.
     install(DIRECTORY src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zendara COMPONENT core
-            FILES_MATCHING PATTERN "*.hpp" PATTERN "*.ipp")
+            FILES_MATCHING PATTERN "*.hpp" PATTERN "*.ipp"
+            PATTERN "bucket_search.hpp" EXCLUDE PATTERN "row_kernels.hpp" EXCLUDE
+            PATTERN "interpolation_lanes.ipp" EXCLUDE)
 endforeach()
 
 if(TARGET zendara_headless)

@@ -230,12 +230,10 @@ private:
 template <class Vector> class LaneSearch
 {
 public:
-    // `radius` has one element a lane, `x` likewise.
-    LaneSearch(BucketTable const& table, double const* x, double y, double const* radius)
-        : table_(table), slots_(table), y_(y)
+    LaneSearch(BucketTable const& table, LanePoints const& points) : table_(table), slots_(table), y_(points.y)
     {
-        load(x_, x);
-        load(radius_, radius);
+        load(x_, points.x);
+        load(radius_, points.radius);
     }
 
     void run(std::int32_t i, std::int32_t j)
@@ -252,10 +250,10 @@ public:
         }
     }
 
-    void store_result(double* z, double* needs_plain)
+    void store_result(LaneResults const& results)
     {
-        store(z, slots_.result());
-        store(needs_plain, choose(slots_.needs_plain(), all<Vector>(1), all<Vector>(0)));
+        store(results.z, slots_.result());
+        store(results.needs_plain, choose(slots_.needs_plain(), all<Vector>(1), all<Vector>(0)));
     }
 
 private:
@@ -324,12 +322,10 @@ private:
     bool has_offered_ = false;
 };
 
-// Interpolates at `lanes` points of one cell; needs_plain gets 1 where the result does not count.
 template <class Vector>
-void search_lanes(BucketTable const& table, std::int32_t i, std::int32_t j, double const* x, double y,
-                  double const* radius, double* z, double* needs_plain)
+void search_lanes(BucketTable const& table, LanePoints const& points, LaneResults const& results)
 {
-    LaneSearch<Vector> search(table, x, y, radius);
-    search.run(i, j);
-    search.store_result(z, needs_plain);
+    LaneSearch<Vector> search(table, points);
+    search.run(points.i, points.j);
+    search.store_result(results);
 }

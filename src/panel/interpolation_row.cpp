@@ -1,162 +1,15 @@
 #include "zendara/panel/bucket_search.hpp"
 #include "zendara/panel/panel.hpp"
+#include "zendara/panel/row_kernels.hpp"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <utility>
-
-#if defined(__x86_64__) && defined(__GNUC__)
-#define ZENDARA_HAS_AVX2_LANES 1
-#include <immintrin.h>
-#endif
 
 namespace zendara
 {
 
 namespace
 {
-
-namespace one_lane
-{
-
-using Narrow = double;
-
-inline void set_all(Narrow& vector, double value)
-{
-    vector = value;
-}
-
-inline Narrow square_root(Narrow value)
-{
-    return std::sqrt(value);
-}
-
-inline bool any(bool mask)
-{
-    return mask;
-}
-
-inline void load(Narrow& vector, double const* from)
-{
-    vector = *from;
-}
-
-inline void store(double* to, Narrow value)
-{
-    *to = value;
-}
-
-#include "zendara/panel/interpolation_lanes.ipp"
-
-} // namespace one_lane
-
-#ifdef ZENDARA_HAS_AVX2_LANES
-
-namespace two_lanes
-{
-
-using Narrow __attribute__((vector_size(16))) = double;
-
-inline void set_all(Narrow& vector, double value)
-{
-    vector = _mm_set1_pd(value);
-}
-
-inline Narrow square_root(Narrow const& value)
-{
-    return _mm_sqrt_pd(value);
-}
-
-template <class Mask> inline bool any(Mask const& mask)
-{
-    return _mm_movemask_pd(reinterpret_cast<Narrow>(mask)) != 0;
-}
-
-inline void load(Narrow& vector, double const* from)
-{
-    vector = _mm_loadu_pd(from);
-}
-
-inline void store(double* to, Narrow const& value)
-{
-    _mm_storeu_pd(to, value);
-}
-
-#include "zendara/panel/interpolation_lanes.ipp"
-
-} // namespace two_lanes
-
-#ifdef __clang__
-#pragma clang attribute push(__attribute__((target("avx2"))), apply_to = function)
-#else
-#pragma GCC push_options
-#pragma GCC target("avx2")
-#endif
-
-namespace four_lanes
-{
-
-using Narrow __attribute__((vector_size(32))) = double;
-
-inline void set_all(Narrow& vector, double value)
-{
-    vector = _mm256_set1_pd(value);
-}
-
-inline Narrow square_root(Narrow const& value)
-{
-    return _mm256_sqrt_pd(value);
-}
-
-template <class Mask> inline bool any(Mask const& mask)
-{
-    return _mm256_movemask_pd(reinterpret_cast<Narrow>(mask)) != 0;
-}
-
-inline void load(Narrow& vector, double const* from)
-{
-    vector = _mm256_loadu_pd(from);
-}
-
-inline void store(double* to, Narrow const& value)
-{
-    _mm256_storeu_pd(to, value);
-}
-
-#include "zendara/panel/interpolation_lanes.ipp"
-
-} // namespace four_lanes
-
-#ifdef __clang__
-#pragma clang attribute pop
-#else
-#pragma GCC pop_options
-#endif
-
-#endif
-
-using LaneKernel = void (*)(BucketTable const&, std::int32_t, std::int32_t, double const*, double, double const*,
-                            double*, double*);
-
-// The kernels for this processor: the narrow one for the few points that share a small cell.
-struct LaneKernels {
-    std::size_t wide_lanes, narrow_lanes;
-    LaneKernel wide, narrow;
-};
-
-LaneKernels best_kernels()
-{
-#ifdef ZENDARA_HAS_AVX2_LANES
-    if (__builtin_cpu_supports("avx2"))
-        return {8, 4, four_lanes::search_lanes<four_lanes::Twin<four_lanes::Narrow>>,
-                four_lanes::search_lanes<four_lanes::Narrow>};
-    return {4, 2, two_lanes::search_lanes<two_lanes::Twin<two_lanes::Narrow>>,
-            two_lanes::search_lanes<two_lanes::Narrow>};
-#else
-    return {1, 1, one_lane::search_lanes<one_lane::Narrow>, one_lane::search_lanes<one_lane::Narrow>};
-#endif
-}
 
 struct CellPlace {
     double cell = 0;              // number of the cell
@@ -196,8 +49,9 @@ bool is_cell(double cell)
 class RowSearch
 {
 public:
-    RowSearch(panel const& record, double y)
-        : record_(record), table_(BucketSearch(record).table()), y_(y), place_y_(place_of(y, table_))
+    RowSearch(panel const& record, RowForm form, double y)
+        : record_(record), table_(BucketSearch(record).table()), kernels_(kernels_of(form)), y_(y),
+          place_y_(place_of(y, table_))
     {
     }
 
@@ -255,17 +109,19 @@ private:
             radius[lane] = radius_[first + k];
         }
         LaneKernel const search = is_narrow ? kernels_.narrow : kernels_.wide;
-        search(table_, static_cast<std::int32_t>(cell_[first]), static_cast<std::int32_t>(place_y_.cell), lane_x.data(),
-               y_, radius.data(), result.data(), needs_plain.data());
+        search(table_,
+               {static_cast<std::int32_t>(cell_[first]), static_cast<std::int32_t>(place_y_.cell), lane_x.data(), y_,
+                radius.data()},
+               {result.data(), needs_plain.data()});
         for (std::size_t k = 0; k < x.size(); ++k)
             z[k] = needs_plain[k] != 0 ? interpolation_step_by_step(record_, x[k], y_) : result[k];
     }
 
     panel const& record_;
     BucketTable const table_;
+    LaneKernels const kernels_;
     double const y_;
     CellPlace const place_y_;
-    LaneKernels const kernels_ = best_kernels();
     std::array<double, piece_size> cell_, radius_;
 };
 
@@ -277,22 +133,28 @@ double interpolate_point(panel const& record, BucketTable const& table, double x
     if (is_cell(place_x.cell) && is_cell(place_y.cell)) {
         double const radius = least(place_x.distance_to_whole, place_y.distance_to_whole);
         double z = 0, needs_plain = 0;
-        one_lane::search_lanes<double>(table, static_cast<std::int32_t>(place_x.cell),
-                                       static_cast<std::int32_t>(place_y.cell), &x, y, &radius, &z, &needs_plain);
+        search_point(table,
+                     {static_cast<std::int32_t>(place_x.cell), static_cast<std::int32_t>(place_y.cell), &x, y, &radius},
+                     {&z, &needs_plain});
         if (needs_plain == 0)
             return z;
     }
     return interpolation_step_by_step(record, x, y);
 }
 
-void panel::interpolate_row(std::span<double const> x, double y, std::span<double> z) const
+void interpolate_row(panel const& record, RowForm form, std::span<double const> x, double y, std::span<double> z)
 {
-    if (BucketSearch(*this).can_be_fast()) {
-        RowSearch(*this, y).run(x, z.first(x.size()));
+    if (BucketSearch(record).can_be_fast()) {
+        RowSearch(record, form, y).run(x, z.first(x.size()));
         return;
     }
     for (std::size_t i = 0; i < x.size(); ++i)
-        z[i] = interpolation_step_by_step(*this, x[i], y);
+        z[i] = interpolation_step_by_step(record, x[i], y);
+}
+
+void panel::interpolate_row(std::span<double const> x, double y, std::span<double> z) const
+{
+    zendara::interpolate_row(*this, best_row_form(), x, y, z);
 }
 
 } // namespace zendara

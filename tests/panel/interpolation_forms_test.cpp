@@ -1,14 +1,19 @@
 #include "panel/panel_samples.hpp"
 #include "zendara/panel/panel.hpp"
+#include "zendara/panel/row_kernels.hpp"
 #include "zendara/support/trap.hpp"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 #include <map>
 #include <random>
+#include <span>
+#include <sstream>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -159,23 +164,60 @@ Points hostile_points(Sample const& sample)
     return {values, values};
 }
 
-void expect_forms_equal(panel const& record, Points const& points, std::string const& name)
+std::vector<RowForm> forms_that_run_here()
 {
-    std::vector<double> row(points.x.size());
-    int differences = 0;
-    for (double const y : points.y) {
-        record.interpolate_row(points.x, y, row);
-        for (std::size_t i = 0; i < row.size() && differences < 5; ++i) {
-            double const x = points.x[i];
-            double const plain = interpolation_step_by_step(record, x, y);
-            double const fast = record.Interpolation(x, y);
-            if (bits(plain) == bits(fast) && bits(plain) == bits(row[i]))
-                continue;
-            ++differences;
-            ADD_FAILURE() << name << ": at " << x << ", " << y << " step by step " << plain << ", point by point "
-                          << fast << ", row " << row[i];
+    std::vector<RowForm> forms;
+    for (RowForm const form : row_forms)
+        if (can_run(form))
+            forms.push_back(form);
+    return forms;
+}
+
+/// The values at all points as one form finds them, row by row.
+std::vector<double> values_by_form(panel const& record, RowForm form, Points const& points)
+{
+    std::size_t const columns = points.x.size();
+    std::vector<double> values(columns * points.y.size());
+    for (std::size_t row = 0; row < points.y.size(); ++row)
+        interpolate_row(record, form, points.x, points.y[row], std::span(values).subspan(row * columns, columns));
+    return values;
+}
+
+template <class At> std::vector<double> values_by_point(Points const& points, At&& at)
+{
+    std::vector<double> values;
+    for (double const y : points.y)
+        for (double const x : points.x)
+            values.push_back(at(x, y));
+    return values;
+}
+
+/// Some five of the points where two forms differ, in words.
+std::string differences(Points const& points, std::vector<double> const& expected, std::vector<double> const& actual)
+{
+    std::ostringstream text;
+    int count = 0;
+    for (std::size_t k = 0; k < expected.size() && count < 5; ++k)
+        if (bits(expected[k]) != bits(actual[k])) {
+            ++count;
+            text << "at " << points.x[k % points.x.size()] << ", " << points.y[k / points.x.size()] << ' ' << actual[k]
+                 << " instead of " << expected[k] << '\n';
         }
-    }
+    return text.str();
+}
+
+void expect_forms_equal(panel const& record, Points const& points, std::string const& name,
+                        std::vector<RowForm> const& forms = forms_that_run_here())
+{
+    std::vector<double> const expected =
+        values_by_point(points, [&](double x, double y) { return interpolation_step_by_step(record, x, y); });
+    for (RowForm const form : forms)
+        EXPECT_EQ(differences(points, expected, values_by_form(record, form, points)), "")
+            << name << ", " << name_of(form);
+    EXPECT_EQ(differences(points, expected,
+                          values_by_point(points, [&](double x, double y) { return record.Interpolation(x, y); })),
+              "")
+        << name << ", point by point";
 }
 
 // --- Tests ---------------------------------------------------------------------------------------------------------
@@ -294,6 +336,44 @@ TEST(InterpolationForms, AreEqualBeforeMaxMin)
         samples::store(record, sample);
         expect_forms_equal(record, friendly_points(sample, 12), sample.name);
         expect_forms_equal(record, hostile_points(sample), sample.name);
+    }
+}
+
+class EachRowForm : public testing::TestWithParam<RowForm>
+{
+};
+
+TEST_P(EachRowForm, EqualsTheStepByStepSearch)
+{
+    if (!can_run(GetParam()))
+        GTEST_SKIP() << "this machine or this build cannot run the row kernel in the form: " << name_of(GetParam());
+    for (Sample const& sample : samples::random_panels(51)) {
+        panel record;
+        samples::fill(record, sample);
+        expect_forms_equal(record, friendly_points(sample, 16), sample.name, {GetParam()});
+        expect_forms_equal(record, hostile_points(sample), sample.name, {GetParam()});
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(RowForms, EachRowForm, testing::ValuesIn(row_forms), [](auto const& info) {
+    std::string name(name_of(info.param));
+    std::replace(name.begin(), name.end(), ' ', '_');
+    return name;
+});
+
+TEST(RowForms, ThePlainOneRunsEverywhereAndTheBestOneHere)
+{
+    EXPECT_TRUE(can_run(RowForm::Plain));
+    EXPECT_TRUE(can_run(best_row_form()));
+    for (RowForm const form : forms_that_run_here())
+        EXPECT_LE(kernels_of(form).wide_lanes, kernels_of(best_row_form()).wide_lanes) << name_of(form);
+}
+
+TEST(RowForms, EachHasKernelsOfItsOwnWidth)
+{
+    for (RowForm const form : forms_that_run_here()) {
+        std::size_t const narrow = form == RowForm::FourLanes ? 4 : form == RowForm::TwoLanes ? 2 : 1;
+        EXPECT_EQ(kernels_of(form).narrow_lanes, narrow) << name_of(form);
     }
 }
 
