@@ -1,5 +1,6 @@
 #include "listening_container.hpp"
 #include "panel/panel_samples.hpp"
+#include "support/failure_kind.hpp"
 #include "zendara/panel/panel.hpp"
 
 #include <gtest/gtest.h>
@@ -7,9 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace zendara
@@ -20,16 +19,6 @@ namespace
 using samples::Sample;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-template <class Step> std::optional<FailureKind> failure_of(Step&& step)
-{
-    try {
-        std::forward<Step>(step)();
-    } catch (Failure const& failure) {
-        return failure.kind();
-    }
-    return std::nullopt;
-}
 
 Sample spread_sites(std::size_t count)
 {

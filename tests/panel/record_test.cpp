@@ -1,3 +1,4 @@
+#include "support/failure_kind.hpp"
 #include "zendara/panel/panel.hpp"
 #include "zendara/support/process_state.hpp"
 
@@ -5,8 +6,6 @@
 
 #include <cmath>
 #include <limits>
-#include <optional>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -16,16 +15,6 @@ namespace
 {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-
-template <class Step> std::optional<FailureKind> failure_of(Step&& step)
-{
-    try {
-        std::forward<Step>(step)();
-    } catch (Failure const& failure) {
-        return failure.kind();
-    }
-    return std::nullopt;
-}
 
 struct StoredSite {
     double x, y, Z;

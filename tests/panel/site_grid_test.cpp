@@ -1,4 +1,5 @@
 #include "panel/panel_samples.hpp"
+#include "support/failure_kind.hpp"
 #include "zendara/panel/panel.hpp"
 
 #include <gtest/gtest.h>
@@ -6,7 +7,6 @@
 #include <cmath>
 #include <limits>
 #include <map>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -38,16 +38,6 @@ namespace
 {
 
 using samples::Sample;
-
-template <class Step> std::optional<FailureKind> failure_of(Step&& step)
-{
-    try {
-        std::forward<Step>(step)();
-    } catch (Failure const& failure) {
-        return failure.kind();
-    }
-    return std::nullopt;
-}
 
 Sample ten_sites(double size_x, double size_y)
 {

@@ -1,3 +1,4 @@
+#include "support/failure_kind.hpp"
 #include "zendara/panel/load.hpp"
 #include "zendara/panel/panel.hpp"
 
@@ -6,8 +7,6 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <optional>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -15,16 +14,6 @@ namespace zendara
 {
 namespace
 {
-
-template <class Step> std::optional<FailureKind> failure_of(Step&& step)
-{
-    try {
-        std::forward<Step>(step)();
-    } catch (Failure const& failure) {
-        return failure.kind();
-    }
-    return std::nullopt;
-}
 
 void store(panel& record, std::vector<double> const& values)
 {
